@@ -1,0 +1,80 @@
+#pragma once
+
+#include <inspectorexport.h>
+
+#include <cstdint>
+
+class CInspectorController;
+class CInspectorDataElement;
+class CInspectorView;
+
+/// The screen side of one row: a control that shows an element's value and lets the user edit it.
+///
+/// The layout engine drives the operations from GetRequiredWidth to Hide, the controller drives
+/// SetDataElement, InitFromElement and StartEditing, and the element drives OnValueChange. All
+/// sizes and positions are pixels in the coordinates of the panel's content.
+class INSPECTOR_EXPORT CInspectorDataWidget
+{
+public:
+    /// A notice that a value changed. The host makes it and gives the code its meaning.
+    struct INSPECTOR_EXPORT sValueChangeInfo
+    {
+        virtual ~sValueChangeInfo();
+
+        std::int32_t m_iCode = 0;
+    };
+
+    /// A notice that the structure of the data changed. The host makes it, as above.
+    struct INSPECTOR_EXPORT sTopoChangeInfo
+    {
+        virtual ~sTopoChangeInfo();
+
+        std::int32_t m_iCode = 0;
+    };
+
+    CInspectorDataWidget();
+    /// A copy shows the same element; it belongs to no row.
+    CInspectorDataWidget(const CInspectorDataWidget& other);
+    CInspectorDataWidget& operator=(const CInspectorDataWidget& other);
+    virtual ~CInspectorDataWidget();
+
+    /// Binds the widget to the element it shows, which it does not own.
+    virtual void SetDataElement(CInspectorDataElement* element);
+
+    /// Reads the element's current state into the widget.
+    virtual void InitFromElement() = 0;
+
+    /// The type string of the widget, a constant such as "qt.simple.edit".
+    virtual const char* GetType() = 0;
+
+    /// Opens the widget's editor, if it has one; Tab and Shift+Tab arrive here.
+    virtual void StartEditing();
+
+    /// Reads the element again and repaints. \p info may be null.
+    virtual void OnValueChange(sValueChangeInfo* info);
+    /// \p info may be null.
+    virtual void OnTopoChange(sTopoChangeInfo* info);
+
+    /// The preferred width in pixels; -1 when the widget takes what the layout gives.
+    virtual int GetRequiredWidth() = 0;
+    /// The preferred height in pixels in a row of the given width.
+    virtual int GetRequiredHeight(int width) = 0;
+
+    virtual void ResizeWidget(int width, int height) = 0;
+    virtual void MoveWidget(int x, int y) = 0;
+    virtual void Show() = 0;
+    virtual void Hide() = 0;
+
+protected:
+    CInspectorDataElement* m_pElement = nullptr;
+
+private:
+    friend class CInspectorController;
+    friend class CInspectorView;
+    friend class CQTInspectorView;
+
+    // Where the widget is registered and placed, so that one which its toolkit parent destroys
+    // is neither destroyed a second time nor laid out again.
+    CInspectorController* m_pOwner = nullptr;
+    CInspectorView* m_pView = nullptr;
+};

@@ -1,0 +1,40 @@
+#include <inspectorcontroller.h>
+
+#include <inspectordatawidget.h>
+#include <inspectorview.h>
+
+#include "lifeguard.h"
+
+#include <cassert>
+
+void CInspectorController::GiveFocusToNextElement(CInspectorDataWidget* from)
+{
+    assert(m_pView && "CInspectorController::GiveFocusToNextElement: no view is set");
+    const std::size_t count = m_pView->GetStops().size();
+    const std::size_t place = m_pView->FindStop(from, true);
+    StartEditingAt(place + 1 < count ? place + 1 : 0);
+}
+
+void CInspectorController::GiveFocusToPrevElement(CInspectorDataWidget* from)
+{
+    assert(m_pView && "CInspectorController::GiveFocusToPrevElement: no view is set");
+    const std::size_t count = m_pView->GetStops().size();
+    const std::size_t place = m_pView->FindStop(from, false);
+    StartEditingAt(place == 0 ? count - 1 : place - 1);
+}
+
+void CInspectorController::StartEditingAt(std::size_t place)
+{
+    const auto& stops = m_pView->GetStops();
+    CInspectorDataWidget* widget =
+        place < stops.size() && stops[place] ? stops[place]->GetWidget() : nullptr;
+    if (!widget)
+        return;
+    const CLifeGuard life(*this);
+    const unsigned long removals = m_ulRemovals;
+    m_pView->EnsureVisible(widget);
+    // The view may belong to a host that rebuilds the panel while it scrolls.
+    if (!life.IsAlive() || !m_pView || (removals != m_ulRemovals && !IsRegistered(widget)))
+        return;
+    widget->StartEditing();
+}

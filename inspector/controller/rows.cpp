@@ -1,0 +1,108 @@
+#include <inspectorcontroller.h>
+
+#include <inspectordataelement.h>
+#include <inspectordatawidget.h>
+
+#include <algorithm>
+#include <utility>
+
+// The records of the rows, and how they are found without walking along all of them.
+
+CInspectorController::sInspectorControllerData::sInspectorControllerData() = default;
+
+CInspectorController::sInspectorControllerData::~sInspectorControllerData()
+{
+    DeleteModel();
+    DeleteWidget();
+}
+
+void CInspectorController::sInspectorControllerData::DeleteModel()
+{
+    // The widget outlives the element and must not reach for it.
+    if (m_pWidget && m_pWidget->m_pElement == m_pElement)
+        m_pWidget->m_pElement = nullptr;
+    delete std::exchange(m_pData, nullptr);
+    delete std::exchange(m_pElement, nullptr);
+}
+
+void CInspectorController::sInspectorControllerData::DeleteWidget()
+{
+    if (m_pWidget)
+        m_pWidget->m_pOwner = nullptr;
+    delete std::exchange(m_pWidget, nullptr);
+}
+
+void CInspectorController::IndexRow(CRows::iterator row)
+{
+    // Only the first row of an element can be asked for.
+    if (m_ulIndexed + 1 == m_lItems.size() && std::next(row) == m_lItems.end())
+    {
+        m_mapRows.emplace((*row)->m_pElement, row);
+        ++m_ulIndexed;
+    }
+}
+
+CInspectorController::CRows::iterator
+CInspectorController::FindRow(const CInspectorDataElement* element)
+{
+    if (m_ulIndexed != m_lItems.size())
+    {
+        m_mapRows.clear();
+        for (auto row = m_lItems.begin(); row != m_lItems.end(); ++row)
+            m_mapRows.emplace((*row)->m_pElement, row);
+        m_ulIndexed = m_lItems.size();
+    }
+    const auto entry = m_mapRows.find(element);
+    if (entry != m_mapRows.end() && (*entry->second)->m_pElement == element)
+        return entry->second;
+    return std::find_if(m_lItems.begin(), m_lItems.end(),
+                        [element](const sInspectorControllerData* record)
+                        { return record->m_pElement == element; });
+}
+
+void CInspectorController::UnlinkRow(CRows::iterator row)
+{
+    ++m_ulRemovals;
+    const CInspectorDataElement* element = (*row)->m_pElement;
+    const bool hasTwins = m_mapRows.size() != m_ulIndexed;
+    const bool isIndexed = m_ulIndexed == m_lItems.size();
+    const auto next = m_lItems.erase(row);
+    if (!isIndexed)
+        return;
+    --m_ulIndexed;
+    m_mapRows.erase(element);
+    if (!hasTwins)
+        return;
+    const auto twin = std::find_if(next, m_lItems.end(),
+                                   [element](const sInspectorControllerData* record)
+                                   { return record->m_pElement == element; });
+    if (twin != m_lItems.end())
+        m_mapRows.emplace(element, twin);
+}
+
+bool CInspectorController::IsRegistered(const sInspectorControllerData* record) const
+{
+    return std::find(m_lItems.begin(), m_lItems.end(), record) != m_lItems.end();
+}
+
+bool CInspectorController::IsRegistered(const CInspectorDataWidget* widget) const
+{
+    return std::any_of(m_lItems.begin(), m_lItems.end(),
+                       [widget](const sInspectorControllerData* record)
+                       { return record->m_pWidget == widget; });
+}
+
+void CInspectorController::ForgetWidget(CInspectorDataWidget* widget)
+{
+    auto row = FindRow(widget->m_pElement);
+    if (row == m_lItems.end() || (*row)->m_pWidget != widget)
+        row = std::find_if(m_lItems.begin(), m_lItems.end(),
+                           [widget](const sInspectorControllerData* record)
+                           { return record->m_pWidget == widget; });
+    if (row == m_lItems.end())
+        return;
+    (*row)->m_pWidget = nullptr;
+    CInspectorDataElement* element = (*row)->m_pElement;
+    if (element && element->m_pWidget == widget)
+        element->m_pWidget = nullptr;
+}

@@ -1,0 +1,43 @@
+#include <inspectordatawidget.h>
+
+#include <inspectorcontroller.h>
+#include <inspectorview.h>
+
+CInspectorDataWidget::sValueChangeInfo::~sValueChangeInfo() = default;
+CInspectorDataWidget::sTopoChangeInfo::~sTopoChangeInfo() = default;
+
+CInspectorDataWidget::CInspectorDataWidget() = default;
+
+CInspectorDataWidget::CInspectorDataWidget(const CInspectorDataWidget& other)
+    : m_pElement(other.m_pElement)
+{
+}
+
+CInspectorDataWidget& CInspectorDataWidget::operator=(const CInspectorDataWidget& other)
+{
+    m_pElement = other.m_pElement;
+    return *this;
+}
+
+CInspectorDataWidget::~CInspectorDataWidget()
+{
+    if (m_pOwner)
+        m_pOwner->ForgetWidget(this);
+    if (m_pView)
+        m_pView->ForgetWidget(this);
+}
+
+void CInspectorDataWidget::SetDataElement(CInspectorDataElement* element)
+{
+    m_pElement = element;
+}
+
+void CInspectorDataWidget::StartEditing()
+{
+}
+void CInspectorDataWidget::OnValueChange(sValueChangeInfo*)
+{
+}
+void CInspectorDataWidget::OnTopoChange(sTopoChangeInfo*)
+{
+}

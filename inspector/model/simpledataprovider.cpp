@@ -1,0 +1,3 @@
+#include <simpledataprovider.h>
+
+ISimpleDataProvider::~ISimpleDataProvider() = default;
