@@ -1,0 +1,81 @@
+#pragma once
+
+#include <inspectorview.h>
+
+#include <QColor>
+#include <QFont>
+#include <QWidget>
+
+#include <string>
+#include <unordered_map>
+
+class QScrollBar;
+
+/// The inspector on the screen: the layout engine in a Qt widget, with a vertical scroll bar.
+///
+/// The host embeds it like any other widget and calls ResizeInspector whenever its panel changes
+/// size. The view must have its controller (SetController) before it is first painted. Controls are
+/// children of the content widget; a control whose row still belongs to a controller survives the
+/// view, any other is destroyed with it.
+///
+/// The wheel scrolls by three text rows a notch, wherever the pointer is in the panel.
+class INSPECTOR_EXPORT CQTInspectorView : public QWidget, public CInspectorView
+{
+    Q_OBJECT
+
+public:
+    /// A widget without parent and with default window flags.
+    CQTInspectorView();
+    ~CQTInspectorView() override;
+
+    /// Shows a one-line message in the given colour instead of frames and labels; an empty message
+    /// shows them again. The controls stay where they are: see ShowContent.
+    void SetPreviewMessage(const std::string& message, QColor color);
+    bool HasPreviewMessage();
+
+    /// Resizes the panel in pixels and lays it out anew if the size changed; 20 pixels of the width
+    /// are kept for the scroll bar. A height of -1 makes the panel as tall as its content.
+    void ResizeInspector(int width, int height) override;
+    void UpdateView() override;
+    /// Scrolls as little as it takes to show the whole control.
+    void EnsureVisible(CInspectorDataWidget* widget) override;
+
+    /// These six are the same in preview mode.
+    int GetGroupLeftMargin() override;      ///< 5
+    int GetGroupRightMargin() override;     ///< 5
+    int GetGroupTopMargin() override;       ///< 5
+    int GetGroupBottomMargin() override;    ///< 5
+    int GetGroupLabelHeight() override;     ///< 14
+    int GetHeightBetweenControl() override; ///< 5
+
+    /// The width of the label in the view's font, plus 2; 0 for an empty name. In preview mode the
+    /// label ends in "=".
+    int GetElementLabelWidth(sInspectorElement* element) override;
+
+    void OnToggleShowContent(bool shown) override;
+    void OnContentHeightSet() override;
+    void ParentControlToInspector(CInspectorDataWidget* widget) override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+protected Q_SLOTS:
+    void SliderValueChanged(int value);
+
+protected:
+    QWidget* m_pContent;
+    QScrollBar* m_pScrollBar;
+    std::string m_sPreviewMessage;
+    QColor m_colorPreview;
+
+private:
+    void ReleaseControls();
+    void PaintLabel(QPainter& painter, const QRect& exposed, const sInspectorElement& row);
+    void PaintGroup(QPainter& painter, const QRect& exposed, const sInspectorElement& group);
+
+    /// Label widths by name, as they are in this font, mode and encoding.
+    std::unordered_map<std::string, int> m_mapLabelWidths;
+    QFont m_fontLabels;
+    bool m_bPreviewLabels = false;
+    int m_iLabelEncoding = 0;
+};

@@ -1,0 +1,184 @@
+#include "inplaceedit.h"
+
+#include <inplaceeditsink.h>
+#include <qtsimpledatawidget.h>
+
+#include "editorplacement.h"
+#include "inuse.h"
+#include "text.h"
+
+#include <QGuiApplication>
+#include <QInputMethod>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+
+#include <limits>
+#include <optional>
+
+namespace
+{
+
+using eCause = CInspectorDataElement::eEndEditCause;
+
+/// The cause that a key ends an edit with, if it does.
+std::optional<eCause> CauseOf(const QKeyEvent& key)
+{
+    switch (key.key())
+    {
+    case Qt::Key_Escape:
+        return CInspectorDataElement::eEndEditCancel;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return CInspectorDataElement::eEndEditValidate;
+    case Qt::Key_Tab:
+        return key.modifiers() & Qt::ShiftModifier ? CInspectorDataElement::eEndEditPrevious
+                                                   : CInspectorDataElement::eEndEditNext;
+    case Qt::Key_Backtab:
+        return CInspectorDataElement::eEndEditPrevious;
+    default:
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+CInPlaceEdit::CInPlaceEdit()
+{
+    // A value is never cut, however long it is.
+    setMaxLength(std::numeric_limits<int>::max());
+    connect(this, SIGNAL(editingFinished()), SLOT(OnFinishEditing()));
+}
+
+CInPlaceEdit::~CInPlaceEdit()
+{
+    // A window that is destroyed takes the editor along that floats in it.
+    if (CQTSimpleDataWidget::g_pInPlace == this)
+        CQTSimpleDataWidget::g_pInPlace = nullptr;
+}
+
+CInPlaceEdit& CInPlaceEdit::GetShared()
+{
+    if (!CQTSimpleDataWidget::g_pInPlace)
+        CQTSimpleDataWidget::g_pInPlace = new CInPlaceEdit;
+    return *CQTSimpleDataWidget::g_pInPlace;
+}
+
+void CInPlaceEdit::SetSink(IInPlaceEditSink* sink)
+{
+    EndEditing();
+    m_pSink = sink;
+}
+
+void CInPlaceEdit::ForgetSink(const IInPlaceEditSink* sink)
+{
+    if (m_pSink == sink)
+        m_pSink = nullptr;
+}
+
+void CInPlaceEdit::SetStartText(const char* text)
+{
+    EndEditing();
+    m_sStart = ToQString(text);
+    m_sCurrent = m_sStart;
+    setText(m_sStart);
+}
+
+void CInPlaceEdit::StartEditing(QWidget& owner, const QRect& area)
+{
+    const CInUse inUse(m_iInUse);
+    EndEditing();
+    ShowEditor(*this, owner,
+               QRect(owner.mapToGlobal(area.topLeft()), owner.mapToGlobal(area.bottomRight())));
+    m_bEditing = true;
+    setFocus(Qt::OtherFocusReason);
+    selectAll();
+}
+
+void CInPlaceEdit::EndEditing()
+{
+    OnFinishEditing();
+}
+
+void CInPlaceEdit::HideSilently()
+{
+    m_bEditing = false;
+    hide();
+}
+
+void CInPlaceEdit::Dispose()
+{
+    m_pSink = nullptr;
+    if (m_iInUse == 0)
+    {
+        delete this;
+        return;
+    }
+    HideSilently();
+    deleteLater();
+}
+
+bool CInPlaceEdit::event(QEvent* event)
+{
+    const CInUse inUse(m_iInUse);
+    switch (event->type())
+    {
+    case QEvent::KeyPress:
+        if (const auto cause = CauseOf(*static_cast<QKeyEvent*>(event)))
+            return EndWith(*cause);
+        break;
+    case QEvent::WindowDeactivate:
+        if (m_bEditing)
+            return EndWith(CInspectorDataElement::eEndEditFocusLost);
+        break;
+    case QEvent::ShortcutOverride:
+        // What is typed here belongs to the value, never to a shortcut of the host.
+        event->accept();
+        return true;
+    case QEvent::InputMethod:
+        m_sComposition = static_cast<QInputMethodEvent*>(event)->preeditString();
+        break;
+    default:
+        break;
+    }
+    return QLineEdit::event(event);
+}
+
+bool CInPlaceEdit::EndWith(eCause cause)
+{
+    m_iCause = cause;
+    CommitComposition();
+    if (cause == CInspectorDataElement::eEndEditCancel)
+        setText(m_sStart);
+    Q_EMIT editingFinished();
+    return true;
+}
+
+void CInPlaceEdit::CommitComposition()
+{
+    if (m_sComposition.isEmpty())
+        return;
+    if (QGuiApplication::focusObject() == this)
+        QGuiApplication::inputMethod()->commit();
+    if (m_sComposition.isEmpty())
+        return;
+    // The input method did not answer: what the user sees is taken as typed.
+    QInputMethodEvent commit;
+    commit.setCommitString(m_sComposition);
+    m_sComposition.clear();
+    QLineEdit::event(&commit);
+}
+
+void CInPlaceEdit::OnFinishEditing()
+{
+    if (!m_bEditing)
+        return;
+    const CInUse inUse(m_iInUse);
+    CommitComposition();
+    m_sCurrent = text();
+    const std::string value = ToNarrow(m_sCurrent);
+    const auto cause = static_cast<eCause>(m_iCause);
+    m_bEditing = false;
+    hide();
+    if (m_pSink)
+        m_pSink->FinishValueEdit(value.c_str(), cause);
+}

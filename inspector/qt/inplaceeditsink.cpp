@@ -1,0 +1,3 @@
+#include <inplaceeditsink.h>
+
+IInPlaceEditSink::~IInPlaceEditSink() = default;

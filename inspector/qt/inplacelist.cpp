@@ -1,0 +1,161 @@
+#include "inplacelist.h"
+
+#include <inplaceeditsink.h>
+
+#include "droprect.h"
+#include "editorplacement.h"
+#include "inuse.h"
+#include "qtcompat.h"
+#include "text.h"
+
+#include <QKeyEvent>
+
+#include <algorithm>
+#include <utility>
+
+namespace
+{
+
+/// The rows that decide how tall the list is; with more it scrolls.
+constexpr int g_iRowsAtMost = 15;
+
+} // namespace
+
+CInPlaceList::CInPlaceList()
+{
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    connect(this, SIGNAL(itemClicked(QListWidgetItem*)), SLOT(OnItemClicked(QListWidgetItem*)));
+}
+
+std::shared_ptr<CInPlaceList> CInPlaceList::Create()
+{
+    return {new CInPlaceList, &CInPlaceList::Dispose};
+}
+
+void CInPlaceList::Dispose(CInPlaceList* list)
+{
+    list->m_pSink = nullptr;
+    if (list->m_iInUse == 0)
+    {
+        delete list;
+        return;
+    }
+    list->m_bOpen = false;
+    list->hide();
+    list->deleteLater();
+}
+
+void CInPlaceList::SetSink(IInPlaceEditSink* sink)
+{
+    EndChoice();
+    m_pSink = sink;
+}
+
+void CInPlaceList::Reset()
+{
+    clear();
+    m_bOpen = false;
+    m_sStart.clear();
+    m_sCurrent.clear();
+}
+
+void CInPlaceList::AddEntry(const char* value, const char* label)
+{
+    if (!value || !label)
+        return;
+    auto* item = new QListWidgetItem(ToQString(label));
+    item->setData(Qt::UserRole, ToQString(value));
+    item->setBackground(palette().color(QPalette::Base));
+    addItem(item);
+}
+
+void CInPlaceList::Start(QWidget& owner, const QRect& area, const char* value)
+{
+    const CInUse inUse(m_iInUse);
+    EndChoice();
+    ++m_uiChoice;
+    m_sCurrent = ToQString(value);
+    m_sStart = m_sCurrent;
+    for (int row = 0; row < count(); ++row)
+    {
+        if (item(row)->data(Qt::UserRole).toString() == m_sCurrent)
+        {
+            setCurrentRow(row, QItemSelectionModel::SelectCurrent);
+            break;
+        }
+    }
+    ShowEditor(*this, owner, DropRect(owner, area, WantedHeight(), DesktopRect()));
+    m_bOpen = true;
+    setFocus(Qt::OtherFocusReason);
+}
+
+int CInPlaceList::WantedHeight() const
+{
+    int height = 0;
+    for (int row = 0; row < std::min(count(), g_iRowsAtMost); ++row)
+        height += std::max(0, sizeHintForRow(row));
+    return height;
+}
+
+void CInPlaceList::EndChoice()
+{
+    if (!m_bOpen || m_uiEnding == m_uiChoice)
+        return;
+    const CInUse inUse(m_iInUse);
+    const unsigned choice = m_uiChoice;
+    const unsigned outer = std::exchange(m_uiEnding, choice);
+    const std::string value = ToNarrow(m_sCurrent);
+    if (m_pSink)
+        m_pSink->FinishValueEdit(value.c_str(),
+                                 static_cast<CInspectorDataElement::eEndEditCause>(m_iCause));
+    m_uiEnding = outer;
+    m_iCause = CInspectorDataElement::eEndEditFocusLost;
+    // The sink may have dropped the list down again, for another choice.
+    if (choice != m_uiChoice)
+        return;
+    m_bOpen = false;
+    hide();
+}
+
+void CInPlaceList::OnItemClicked(QListWidgetItem* item)
+{
+    const CInUse inUse(m_iInUse);
+    // A choice that is being reported is not reported again; any other click is.
+    if (m_uiEnding == m_uiChoice)
+        return;
+    m_bOpen = true;
+    const QVariant value = item ? item->data(Qt::UserRole) : QVariant();
+    m_sCurrent = value.toString();
+    m_sStart = m_sCurrent;
+    EndChoice();
+}
+
+bool CInPlaceList::event(QEvent* event)
+{
+    const CInUse inUse(m_iInUse);
+    switch (event->type())
+    {
+    case QEvent::KeyPress:
+        return CancelWith(static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape
+                              ? CInspectorDataElement::eEndEditCancel
+                              : CInspectorDataElement::eEndEditFocusLost);
+    case QEvent::WindowDeactivate:
+        return CancelWith(CInspectorDataElement::eEndEditFocusLost);
+    case QEvent::ShortcutOverride:
+        // A key that closes the list must not trigger a shortcut of the host as well.
+        event->accept();
+        return true;
+    default:
+        return QListWidget::event(event);
+    }
+}
+
+bool CInPlaceList::CancelWith(CInspectorDataElement::eEndEditCause cause)
+{
+    if (m_uiEnding == m_uiChoice)
+        return true;
+    m_iCause = cause;
+    m_sCurrent = m_sStart;
+    EndChoice();
+    return true;
+}

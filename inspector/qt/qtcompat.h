@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QRect>
+#include <QScreen>
+
+// What differs between the versions of Qt, in one place.
+
+/// Where in the widget the mouse was pressed.
+inline QPoint PressPosition(const QMouseEvent& event)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return event.position().toPoint();
+#else
+    return event.pos();
+#endif
+}
+
+/// The union of all screens, in global coordinates.
+inline QRect DesktopRect()
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen ? screen->virtualGeometry() : QRect();
+}

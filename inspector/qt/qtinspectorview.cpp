@@ -1,0 +1,195 @@
+#include <qtinspectorview.h>
+
+#include <inspectorcontroller.h>
+#include <inspectordatawidget.h>
+#include <qttextencoding.h>
+
+#include "../view/pixels.h"
+#include "text.h"
+#include "wheelfilter.h"
+
+#include <QFontMetrics>
+#include <QScrollBar>
+
+#include <utility>
+
+namespace
+{
+
+constexpr int g_iScrollBarWidth = 20;
+constexpr int g_iTextRowHeight = 20;
+constexpr int g_iRowsPerNotch = 3;
+
+} // namespace
+
+CQTInspectorView::CQTInspectorView()
+    : m_pContent(new QWidget(this)), m_pScrollBar(new QScrollBar(this))
+{
+    m_pContent->show();
+    m_pScrollBar->hide();
+    connect(m_pScrollBar, SIGNAL(valueChanged(int)), this, SLOT(SliderValueChanged(int)));
+    new CWheelFilter(*this, *m_pScrollBar,
+                     g_iRowsPerNotch *
+                         (g_iTextRowHeight + CQTInspectorView::GetHeightBetweenControl()));
+}
+
+CQTInspectorView::~CQTInspectorView()
+{
+    ReleaseControls();
+    delete std::exchange(m_pContent, nullptr);
+    delete std::exchange(m_pScrollBar, nullptr);
+}
+
+void CQTInspectorView::ReleaseControls()
+{
+    // Rows belong to their controller, which deletes their controls in its own time.
+    for (const sInspectorHolder* holder : m_setControlHolders)
+    {
+        CInspectorDataWidget* control = holder->GetWidget();
+        auto* widget = control && control->m_pOwner ? dynamic_cast<QWidget*>(control) : nullptr;
+        if (widget && widget->parentWidget() == m_pContent)
+            widget->setParent(nullptr);
+    }
+}
+
+void CQTInspectorView::SetPreviewMessage(const std::string& message, QColor color)
+{
+    if (&message != &m_sPreviewMessage)
+        m_sPreviewMessage = message;
+    m_colorPreview = color;
+    update();
+}
+
+bool CQTInspectorView::HasPreviewMessage()
+{
+    return !m_sPreviewMessage.empty();
+}
+
+void CQTInspectorView::ResizeInspector(int width, int height)
+{
+    const int contentWidth = pixels::Difference(width, g_iScrollBarWidth);
+    if (height == -1)
+    {
+        CInspectorView::ResizeInspector(contentWidth, height);
+        height = m_iInspectorHeight;
+    }
+    resize(width, height);
+    CInspectorView::ResizeInspector(contentWidth, height);
+    m_pContent->resize(contentWidth, height);
+    OnContentHeightSet();
+}
+
+void CQTInspectorView::UpdateView()
+{
+    update();
+}
+
+void CQTInspectorView::OnContentHeightSet()
+{
+    if (m_iInspectorHeight >= m_iContentHeight)
+    {
+        m_pScrollBar->setValue(0);
+        m_pScrollBar->hide();
+    }
+    else
+    {
+        m_pScrollBar->move(width() - g_iScrollBarWidth, 0);
+        m_pScrollBar->resize(g_iScrollBarWidth, height());
+        m_pScrollBar->setPageStep(m_iInspectorHeight);
+        m_pScrollBar->setMinimum(0);
+        m_pScrollBar->setMaximum(pixels::Difference(m_iContentHeight, m_iInspectorHeight));
+        m_pScrollBar->show();
+    }
+    OffsetControls(0, m_pScrollBar->value());
+    UpdateView();
+}
+
+void CQTInspectorView::SliderValueChanged(int)
+{
+    OffsetControls(0, m_pScrollBar->value());
+    UpdateView();
+}
+
+void CQTInspectorView::EnsureVisible(CInspectorDataWidget* widget)
+{
+    const sInspectorHolder* holder = GetHolderFromControl(widget);
+    if (!holder)
+        return;
+    const int top = pixels::Difference(holder->m_iY, m_iOffsetY);
+    const int bottom = pixels::Sum(top, holder->m_iHeight);
+    if (top < 0)
+        m_pScrollBar->setValue(holder->m_iY);
+    else if (bottom > m_iInspectorHeight)
+        m_pScrollBar->setValue(
+            pixels::Difference(pixels::Sum(m_iOffsetY, bottom), m_iInspectorHeight));
+    else
+        m_pScrollBar->setValue(m_iOffsetY);
+}
+
+int CQTInspectorView::GetGroupLeftMargin()
+{
+    return 5;
+}
+
+int CQTInspectorView::GetGroupRightMargin()
+{
+    return 5;
+}
+
+int CQTInspectorView::GetGroupTopMargin()
+{
+    return 5;
+}
+
+int CQTInspectorView::GetGroupBottomMargin()
+{
+    return 5;
+}
+
+int CQTInspectorView::GetGroupLabelHeight()
+{
+    return 14;
+}
+
+int CQTInspectorView::GetHeightBetweenControl()
+{
+    return 5;
+}
+
+int CQTInspectorView::GetElementLabelWidth(sInspectorElement* element)
+{
+    if (element->m_sName.empty())
+        return 0;
+    const int encoding = CQTTextEncoding::GetEncoding();
+    if (m_bPreviewLabels != m_bPreview || m_iLabelEncoding != encoding || m_fontLabels != font())
+    {
+        m_mapLabelWidths.clear();
+        m_bPreviewLabels = m_bPreview;
+        m_iLabelEncoding = encoding;
+        m_fontLabels = font();
+    }
+    const auto [entry, isNew] = m_mapLabelWidths.emplace(element->m_sName, 0);
+    if (isNew)
+    {
+        QString text = ToQString(element->m_sName);
+        if (m_bPreview)
+            text += QLatin1Char('=');
+        // The measure of a text does not depend on where it stands.
+        const QRect bounds =
+            QFontMetrics(font()).boundingRect(QRect(), Qt::AlignLeft | Qt::AlignVCenter, text);
+        entry->second = bounds.right() - bounds.left() + 3;
+    }
+    return entry->second;
+}
+
+void CQTInspectorView::OnToggleShowContent(bool shown)
+{
+    CInspectorView::OnToggleShowContent(shown);
+    UpdateView();
+}
+
+void CQTInspectorView::ParentControlToInspector(CInspectorDataWidget* widget)
+{
+    if (auto* control = dynamic_cast<QWidget*>(widget))
+        control->setParent(m_pContent);
+}

@@ -1,0 +1,98 @@
+#include <qtinspectorview.h>
+
+#include "text.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+#include <QScrollBar>
+
+#include <deque>
+
+namespace
+{
+
+constexpr int g_iLabelFlags = Qt::AlignLeft | Qt::AlignVCenter;
+
+/// Whether something drawn in a rectangle may be seen in another. Text and frames stay in their
+/// rectangle but for the width of a line; nothing is known about a rectangle turned inside out.
+bool MayShow(const QRectF& drawn, const QRect& exposed)
+{
+    return drawn.width() <= 0 || drawn.height() <= 0 ||
+           drawn.adjusted(-2, -2, 2, 2).intersects(exposed);
+}
+
+} // namespace
+
+void CQTInspectorView::paintEvent(QPaintEvent* event)
+{
+    OnPreDraw();
+    QWidget::paintEvent(event);
+    QPainter painter(this);
+    if (HasPreviewMessage())
+    {
+        const QPen pen = painter.pen();
+        painter.setPen(QPen(m_colorPreview));
+        painter.drawText(QRect(0, 0, width(), height()), g_iLabelFlags,
+                         ToQString(m_sPreviewMessage));
+        painter.setPen(pen);
+        return;
+    }
+    if (!m_bContentShown)
+        return;
+    // Level by level, so that a frame never runs over what is inside it.
+    std::deque<const std::list<sInspectorElement>*> lists{&m_lElements};
+    for (; !lists.empty(); lists.pop_front())
+    {
+        for (const sInspectorElement& element : *lists.front())
+        {
+            if (element.m_iKind == eElementRow)
+                PaintLabel(painter, event->rect(), element);
+            else if (!m_bPreview)
+                PaintGroup(painter, event->rect(), element);
+            if (!element.m_lChildren.empty())
+                lists.push_back(&element.m_lChildren);
+        }
+    }
+}
+
+void CQTInspectorView::PaintLabel(QPainter& painter, const QRect& exposed,
+                                  const sInspectorElement& row)
+{
+    if (row.m_sName.empty())
+        return;
+    const QRectF rect(row.m_iX, qreal(row.m_iY) - m_pScrollBar->value(), row.m_iLabelWidth,
+                      row.m_iHeight);
+    if (!MayShow(rect, exposed))
+        return;
+    QString text = ToQString(row.m_sName);
+    if (m_bPreview)
+        text += QLatin1Char('=');
+    painter.drawText(rect, g_iLabelFlags, text);
+}
+
+void CQTInspectorView::PaintGroup(QPainter& painter, const QRect& exposed,
+                                  const sInspectorElement& group)
+{
+    const int labelHeight = group.m_sName.empty() ? 0 : GetGroupLabelHeight();
+    const int half = labelHeight / 2;
+    const qreal top = qreal(group.m_iY) - m_pScrollBar->value();
+    const QRectF frame(group.m_iX, top + half, group.m_iWidth, qreal(group.m_iHeight) - half);
+    if (MayShow(frame, exposed))
+    {
+        const QPen pen = painter.pen();
+        painter.setPen(pen.color().darker(175));
+        painter.drawRoundedRect(frame, 3.0, 3.0, Qt::AbsoluteSize);
+        painter.setPen(pen);
+    }
+    if (labelHeight <= 0)
+        return;
+    const int left = GetGroupLeftMargin();
+    const QRectF title(qreal(group.m_iX) + left, top,
+                       qreal(group.m_iWidth) - left - GetGroupRightMargin(), labelHeight);
+    if (!MayShow(title, exposed))
+        return;
+    const Qt::BGMode mode = painter.backgroundMode();
+    painter.setBackgroundMode(Qt::OpaqueMode);
+    painter.drawText(title, g_iLabelFlags, ToQString(group.m_sName));
+    painter.setBackgroundMode(mode);
+}

@@ -1,0 +1,80 @@
+#include <qtsimpletextwidget.h>
+
+#include <simpledataelement.h>
+
+#include "layoutoperations.h"
+#include "text.h"
+
+#include <QPointer>
+
+#include <cassert>
+
+CQTSimpleTextWidget::CQTSimpleTextWidget()
+{
+    setReadOnly(false);
+}
+
+CQTSimpleTextWidget::~CQTSimpleTextWidget() = default;
+
+void CQTSimpleTextWidget::InitFromElement()
+{
+    OnValueChange(nullptr);
+}
+
+const char* CQTSimpleTextWidget::GetType()
+{
+    return "qt.simple.text";
+}
+
+void CQTSimpleTextWidget::OnValueChange(sValueChangeInfo*)
+{
+    CSimpleDataElement* element = GetSafeData();
+    assert(element && "CQTSimpleTextWidget::OnValueChange: no text element is bound");
+    std::string text;
+    element->GetDataAsString(text);
+    setText(ToQString(text));
+    m_sShown = toPlainText();
+    if (ToNarrow(m_sShown) == text)
+        text.clear();
+    m_sOriginal = std::move(text);
+    if (m_sOriginal.empty())
+        m_sShown.clear();
+    update();
+}
+
+int CQTSimpleTextWidget::GetRequiredWidth()
+{
+    return 20;
+}
+
+int CQTSimpleTextWidget::GetRequiredHeight(int)
+{
+    return 100;
+}
+
+INSPECTOR_LAYOUT_OPERATIONS(CQTSimpleTextWidget);
+
+void CQTSimpleTextWidget::GetDataAsString(std::string& out)
+{
+    const QString text = toPlainText();
+    if (!m_sOriginal.empty() && text == m_sShown)
+        out = m_sOriginal;
+    else
+        out = ToNarrow(text);
+}
+
+CSimpleDataElement* CQTSimpleTextWidget::GetSafeData()
+{
+    return dynamic_cast<CSimpleDataElement*>(m_pElement);
+}
+
+void CQTSimpleTextWidget::focusOutEvent(QFocusEvent*)
+{
+    CSimpleDataElement* element = GetSafeData();
+    assert(element && "CQTSimpleTextWidget::focusOutEvent: no text element is bound");
+    // The host may remove this row when it learns of the change.
+    const QPointer<CQTSimpleTextWidget> self(this);
+    element->OnCtrlValueChange();
+    if (self)
+        update();
+}
