@@ -134,7 +134,8 @@ public:
     void DirtifyController(IDirtyControllerDataInfo* info);
 
     /// Queues a notice for a row, or marks the row dirty when \p info is null, and asks the view
-    /// for a repaint. A view must be set. The same notice must not be queued twice.
+    /// for a repaint. A view must be set (one that died since is not missed). The same notice must
+    /// not be queued twice.
     void DirtifyItem(sInspectorControllerData* record, IDirtyControllerDataInfo* info);
 
     /// Delivers and deletes every queued notice: those for the whole panel first, in one call, then
@@ -156,12 +157,12 @@ private:
     using CRows = std::list<sInspectorControllerData*>;
     class CLifeGuard;
     class CDelivery;
+    class CWalk;
 
     void IndexRow(CRows::iterator row);
     CRows::iterator FindRow(const CInspectorDataElement* element);
     void UnlinkRow(CRows::iterator row);
-    /// Whether a record, or a widget of some record, is (still) registered: a walk over the rows.
-    bool IsRegistered(const sInspectorControllerData* record) const;
+    /// Whether the widget of some row is (still) this one: a walk over the rows.
     bool IsRegistered(const CInspectorDataWidget* widget) const;
     void StartEditingAt(std::size_t stop);
     /// Returns false when the controller did not survive it.
@@ -183,6 +184,9 @@ private:
     unsigned long m_ulClearings = 0;
     /// True while the host may not come back into the registry.
     bool m_bClosed = false;
+    /// True once the view died: it is not missed.
+    bool m_bViewGone = false;
     CLifeGuard* m_pLifeGuards = nullptr;
     CDelivery* m_pDelivery = nullptr;
+    CWalk* m_pWalks = nullptr;
 };

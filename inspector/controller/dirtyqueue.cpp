@@ -12,18 +12,20 @@ CInspectorController::IDirtyControllerDataInfo::~IDirtyControllerDataInfo() = de
 void CInspectorController::DirtifyItem(sInspectorControllerData* record,
                                        IDirtyControllerDataInfo* info)
 {
-    assert(m_pView && "CInspectorController::DirtifyItem: no view is set");
+    assert((m_pView || m_bViewGone) && "CInspectorController::DirtifyItem: no view is set");
     std::vector<IDirtyControllerDataInfo*>& notices = m_mapDirtyItems[record];
     if (info)
         notices.push_back(info);
-    m_pView->DirtyView();
+    if (m_pView)
+        m_pView->DirtyView();
 }
 
 void CInspectorController::DirtifyController(IDirtyControllerDataInfo* info)
 {
-    assert(m_pView && "CInspectorController::DirtifyController: no view is set");
+    assert((m_pView || m_bViewGone) && "CInspectorController::DirtifyController: no view is set");
     m_vControllerDirt.push_back(info);
-    m_pView->DirtyView();
+    if (m_pView)
+        m_pView->DirtyView();
 }
 
 void CInspectorController::HandleDirtyItems()

@@ -9,7 +9,10 @@
 
 void CInspectorController::GiveFocusToNextElement(CInspectorDataWidget* from)
 {
-    assert(m_pView && "CInspectorController::GiveFocusToNextElement: no view is set");
+    assert((m_pView || m_bViewGone) &&
+           "CInspectorController::GiveFocusToNextElement: no view is set");
+    if (!m_pView)
+        return;
     const std::size_t count = m_pView->GetStops().size();
     const std::size_t place = m_pView->FindStop(from, true);
     StartEditingAt(place + 1 < count ? place + 1 : 0);
@@ -17,7 +20,10 @@ void CInspectorController::GiveFocusToNextElement(CInspectorDataWidget* from)
 
 void CInspectorController::GiveFocusToPrevElement(CInspectorDataWidget* from)
 {
-    assert(m_pView && "CInspectorController::GiveFocusToPrevElement: no view is set");
+    assert((m_pView || m_bViewGone) &&
+           "CInspectorController::GiveFocusToPrevElement: no view is set");
+    if (!m_pView)
+        return;
     const std::size_t count = m_pView->GetStops().size();
     const std::size_t place = m_pView->FindStop(from, false);
     StartEditingAt(place == 0 ? count - 1 : place - 1);

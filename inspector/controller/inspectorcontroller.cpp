@@ -5,7 +5,7 @@
 #include <inspectorview.h>
 
 #include "erasevalue.h"
-#include "lifeguard.h"
+#include "walk.h"
 
 #include <cassert>
 #include <memory>
@@ -50,6 +50,7 @@ void CInspectorController::SetInspectorView(CInspectorView* view)
     if (m_pView)
         EraseValue(m_pView->m_vReferrers, this);
     m_pView = view;
+    m_bViewGone = false;
     if (m_pView)
         m_pView->m_vReferrers.push_back(this);
 }
@@ -89,21 +90,18 @@ void CInspectorController::RemoveItem(CInspectorDataElement* element)
 
 void CInspectorController::ConnectDataElements()
 {
-    const CLifeGuard life(*this);
-    for (auto row = m_lItems.begin(); row != m_lItems.end(); ++row)
+    CWalk walk(*this);
+    while (walk.m_Row != m_lItems.end())
     {
-        const sInspectorControllerData* record = *row;
-        const unsigned long removals = m_ulRemovals;
-        // The walk goes on only along rows that are known to be there.
-        const auto isLost = [&]
-        { return !life.IsAlive() || (removals != m_ulRemovals && !IsRegistered(record)); };
+        const sInspectorControllerData* record = *walk.m_Row;
+        walk.m_bRowGone = false;
         record->m_pElement->Connect();
-        if (isLost())
-            return;
-        if (record->m_pWidget)
+        if (walk.IsAlive() && !walk.m_bRowGone && record->m_pWidget)
             record->m_pWidget->InitFromElement();
-        if (isLost())
+        if (!walk.IsAlive())
             return;
+        if (!walk.m_bRowGone)
+            ++walk.m_Row;
     }
 }
 

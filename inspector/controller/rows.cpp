@@ -3,6 +3,8 @@
 #include <inspectordataelement.h>
 #include <inspectordatawidget.h>
 
+#include "walk.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -66,6 +68,7 @@ void CInspectorController::UnlinkRow(CRows::iterator row)
     const CInspectorDataElement* element = (*row)->m_pElement;
     const bool hasTwins = m_mapRows.size() != m_ulIndexed;
     const bool isIndexed = m_ulIndexed == m_lItems.size();
+    CWalk::StepOff(m_pWalks, row);
     const auto next = m_lItems.erase(row);
     if (!isIndexed)
         return;
@@ -78,11 +81,6 @@ void CInspectorController::UnlinkRow(CRows::iterator row)
                                    { return record->m_pElement == element; });
     if (twin != m_lItems.end())
         m_mapRows.emplace(element, twin);
-}
-
-bool CInspectorController::IsRegistered(const sInspectorControllerData* record) const
-{
-    return std::find(m_lItems.begin(), m_lItems.end(), record) != m_lItems.end();
 }
 
 bool CInspectorController::IsRegistered(const CInspectorDataWidget* widget) const

@@ -59,7 +59,10 @@ CInspectorView::~CInspectorView()
     CInspectorView::RemoveAll();
     SetController(nullptr);
     for (CInspectorController* controller : m_vReferrers)
+    {
         controller->m_pView = nullptr;
+        controller->m_bViewGone = true;
+    }
 }
 
 void CInspectorView::SetController(CInspectorController* controller)
