@@ -9,13 +9,12 @@ namespace
 
 CQTTextEncoding::eTextEncoding g_eEncoding = CQTTextEncoding::eTextEncodingLatin1;
 
-QString FromUtf8(const QByteArray& bytes)
+QString FromUtf8(const std::string& text)
 {
-    // Qt swallows a leading byte order mark, which is a character of the text here.
-    const QByteArray mark("\xEF\xBB\xBF");
-    if (!bytes.startsWith(mark))
-        return QString::fromUtf8(bytes);
-    return QChar(QChar::ByteOrderMark) + QString::fromUtf8(bytes.mid(mark.size()));
+    // Qt swallows one leading byte order mark, which is a character of the text here.
+    const std::string mark("\xEF\xBB\xBF");
+    const std::string bytes = text.compare(0, mark.size(), mark) == 0 ? mark + text : text;
+    return QString::fromUtf8(bytes.data(), static_cast<int>(bytes.size()));
 }
 
 } // namespace
@@ -32,10 +31,10 @@ CQTTextEncoding::eTextEncoding CQTTextEncoding::GetEncoding()
 
 QString ToQString(const std::string& text)
 {
-    const QByteArray bytes = QByteArray::fromRawData(text.data(), static_cast<int>(text.size()));
+    // With the size given, as Qt 5 otherwise reads up to the first zero byte.
     if (g_eEncoding == CQTTextEncoding::eTextEncodingUtf8)
-        return FromUtf8(bytes);
-    return QString::fromLatin1(bytes);
+        return FromUtf8(text);
+    return QString::fromLatin1(text.data(), static_cast<int>(text.size()));
 }
 
 std::string ToNarrow(const QString& text)
