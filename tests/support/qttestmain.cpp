@@ -1,0 +1,37 @@
+#include <support/qtleftovers.h>
+#include <support/qtmessages.h>
+
+#include <QApplication>
+#include <QFont>
+#include <QStyle>
+#include <QStyleFactory>
+
+#include <gtest/gtest.h>
+
+// The main function of every test that needs Qt: the same style, font and colours everywhere, so
+// that pixels can be compared.
+int main(int argc, char** argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    if (testing::GTEST_FLAG(list_tests))
+        return RUN_ALL_TESTS();
+
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    // The look of the tester's desktop stays outside.
+    qunsetenv("QT_STYLE_OVERRIDE");
+    qunsetenv("QT_QPA_PLATFORMTHEME");
+    QApplication::setDesktopSettingsAware(false);
+
+    qtmessages::Install();
+    QApplication application(argc, argv);
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(QApplication::style()->standardPalette());
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(12);
+    QApplication::setFont(font);
+    QApplication::setCursorFlashTime(0);
+
+    testing::UnitTest::GetInstance()->listeners().Append(new CQtLeftovers);
+    return RUN_ALL_TESTS();
+}
