@@ -67,13 +67,20 @@ void CInspectorController::UnlinkRow(CRows::iterator row)
     ++m_ulRemovals;
     const CInspectorDataElement* element = (*row)->m_pElement;
     const bool hasTwins = m_mapRows.size() != m_ulIndexed;
-    const bool isIndexed = m_ulIndexed == m_lItems.size();
+    const auto entry = m_mapRows.find(element);
+    const bool isIndexed =
+        m_ulIndexed == m_lItems.size() && entry != m_mapRows.end() && entry->second == row;
     CWalk::StepOff(m_pWalks, row);
     const auto next = m_lItems.erase(row);
     if (!isIndexed)
+    {
+        // The row may stand under an element that it no longer has.
+        m_mapRows.clear();
+        m_ulIndexed = 0;
         return;
+    }
     --m_ulIndexed;
-    m_mapRows.erase(element);
+    m_mapRows.erase(entry);
     if (!hasTwins)
         return;
     const auto twin = std::find_if(next, m_lItems.end(),
