@@ -7,7 +7,9 @@ class INSPECTOR_EXPORT CBoolDataElement : public CInspectorDataElement
 {
 public:
     CBoolDataElement();
+    /// A copy has the same value and shares the widget and the controller.
     CBoolDataElement(const CBoolDataElement& other);
+    /// Copies the value and shares the widget and the controller from now on.
     CBoolDataElement& operator=(const CBoolDataElement& other);
     ~CBoolDataElement() override;
 
@@ -26,10 +28,12 @@ public:
     virtual void OnCtrlValueChange();
     using CInspectorDataElement::OnCtrlValueChange;
 
+    /// The stored value; false at first.
     virtual bool GetValue();
     /// Stores the value; neither the hook nor the widget is told.
     virtual void SetValue(bool value);
 
 protected:
+    /// The value.
     bool m_bValue = false;
 };

@@ -24,6 +24,7 @@ public:
     /// A copy of an element that owns its definition owns the same one: all but one of such copies
     /// must let go of it (they may not be destroyed or given another definition before).
     CEnumDataElement(const CEnumDataElement& other);
+    /// As for the copy; a definition that this element owned before is not freed.
     CEnumDataElement& operator=(const CEnumDataElement& other);
     /// Deletes the definition if the element owns it.
     ~CEnumDataElement() override;
@@ -51,7 +52,9 @@ public:
     void ClearEnum();
 
 protected:
+    /// The definition in use; may be null.
     sEnumDefinition* m_pDefinition = nullptr;
+    /// True for a definition that CreateEnum made.
     bool m_bOwnsDefinition = false;
 
 private:

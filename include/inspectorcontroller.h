@@ -49,17 +49,19 @@ public:
 
         /// Deletes the payload and the element; the widget is made to forget the element first.
         void DeleteModel();
+        /// Deletes the widget.
         void DeleteWidget();
 
-        IControllerData* m_pData = nullptr; ///< may be null
-        CInspectorDataElement* m_pElement = nullptr;
-        CInspectorDataWidget* m_pWidget = nullptr; ///< null once its toolkit parent destroyed it
+        IControllerData* m_pData = nullptr;          ///< may be null
+        CInspectorDataElement* m_pElement = nullptr; ///< the model side
+        CInspectorDataWidget* m_pWidget = nullptr;   ///< null once its toolkit parent destroyed it
     };
 
     CInspectorController();
     /// A copy shares rows, notices and view with its source: at most one of the two may ever be
     /// cleared or destroyed.
     CInspectorController(const CInspectorController& other);
+    /// Shares the other's rows, notices and view, as a copy does.
     CInspectorController& operator=(const CInspectorController& other);
     /// Calls ClearAllData. The view is told to forget the controller and is not deleted.
     virtual ~CInspectorController();
@@ -86,11 +88,12 @@ public:
     /// once its rows are added.
     virtual void ConnectDataElements();
 
-    /// Starts editing in the control after (before) \p from in display order, wrapping around at
-    /// the ends: CInspectorView::EnsureVisible, then CInspectorDataWidget::StartEditing. Every
-    /// control is a stop, whether it can be edited or not. From a widget that is not in the view,
-    /// editing goes to the first (last) control. A view must be set.
+    /// Starts editing in the control after \p from in display order, and after the last in the
+    /// first: CInspectorView::EnsureVisible, then CInspectorDataWidget::StartEditing. Every control
+    /// is a stop, whether it can be edited or not. From a widget that is not in the view, editing
+    /// goes to the first control. A view must be set.
     virtual void GiveFocusToNextElement(CInspectorDataWidget* from);
+    /// The same backwards.
     virtual void GiveFocusToPrevElement(CInspectorDataWidget* from);
 
     /// For the host: bring the rows up to date with the object that is shown. The library never
@@ -144,10 +147,15 @@ public:
     void HandleDirtyItems();
 
 protected:
+    /// The view that shows the rows; not owned.
     CInspectorView* m_pView = nullptr;
+    /// Preview mode.
     bool m_bPreview = false;
+    /// The rows in the order in which they were added; owned.
     std::list<sInspectorControllerData*> m_lItems;
+    /// The dirty rows and their notices; an empty array is a row that is dirty without a notice.
     std::map<sInspectorControllerData*, std::vector<IDirtyControllerDataInfo*>> m_mapDirtyItems;
+    /// The notices for the whole panel.
     std::vector<IDirtyControllerDataInfo*> m_vControllerDirt;
 
 private:

@@ -26,6 +26,7 @@ public:
     CInspectorDataElement();
     /// A copy shares the widget and the controller of its source.
     CInspectorDataElement(const CInspectorDataElement& other);
+    /// Shares the widget and the controller of the other element from now on.
     CInspectorDataElement& operator=(const CInspectorDataElement& other);
     virtual ~CInspectorDataElement();
 
@@ -48,18 +49,21 @@ public:
 
     /// For elements of the host that ignore changes of their data for a while; empty here.
     virtual void Mute();
+    /// Ends what Mute began; empty here.
     virtual void Unmute();
 
-    /// Attach to and detach from the data that is shown. CInspectorController calls them:
-    /// Connect from ConnectDataElements, Disconnect before the row is destroyed. Disconnect must
-    /// not add, remove or clear rows.
+    /// Attaches the element to the data it shows. CInspectorController::ConnectDataElements calls
+    /// it.
     virtual void Connect();
+    /// Detaches the element from its data. CInspectorController calls it before it destroys the
+    /// row; it must not add, remove or clear rows.
     virtual void Disconnect();
 
     /// Makes the widget read the element again (OnValueChange with a null notice).
     /// The element must be bound.
     virtual void UpdateData();
 
+    /// Whether the user may not change the value.
     virtual bool IsReadOnly();
     /// Stores the flag; the widget looks at it the next time it needs it.
     virtual void SetReadOnly(bool readOnly);
@@ -71,8 +75,11 @@ protected:
     /// element afterwards.
     virtual void InternalValueChanged();
 
+    /// The user may not change the value.
     bool m_bReadOnly = false;
+    /// The widget that shows the element; null until it is bound, and when the widget died first.
     CInspectorDataWidget* m_pWidget = nullptr;
+    /// The controller that owns the row; null until the element is bound.
     CInspectorController* m_pController = nullptr;
 
 private:

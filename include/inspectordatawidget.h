@@ -21,6 +21,7 @@ public:
     {
         virtual ~sValueChangeInfo();
 
+        /// Copied and never looked at by the library.
         std::int32_t m_iCode = 0;
     };
 
@@ -29,12 +30,14 @@ public:
     {
         virtual ~sTopoChangeInfo();
 
+        /// Copied and never looked at by the library.
         std::int32_t m_iCode = 0;
     };
 
     CInspectorDataWidget();
     /// A copy shows the same element; it belongs to no row.
     CInspectorDataWidget(const CInspectorDataWidget& other);
+    /// Shows the other widget's element from now on; the row it belongs to stays its own.
     CInspectorDataWidget& operator=(const CInspectorDataWidget& other);
     virtual ~CInspectorDataWidget();
 
@@ -52,7 +55,7 @@ public:
 
     /// Reads the element again and repaints. \p info may be null.
     virtual void OnValueChange(sValueChangeInfo* info);
-    /// \p info may be null.
+    /// For widgets of the host that show structure; empty here. \p info may be null.
     virtual void OnTopoChange(sTopoChangeInfo* info);
 
     /// The preferred width in pixels; -1 when the widget takes what the layout gives.
@@ -60,12 +63,17 @@ public:
     /// The preferred height in pixels in a row of the given width.
     virtual int GetRequiredHeight(int width) = 0;
 
+    /// Takes the size that the layout gives, in pixels; 0 by 0 while the content is hidden.
     virtual void ResizeWidget(int width, int height) = 0;
+    /// Takes the place that the layout gives, in pixels of the content.
     virtual void MoveWidget(int x, int y) = 0;
+    /// Makes the control visible; called once when it is placed in a view.
     virtual void Show() = 0;
+    /// Makes the control invisible; for hosts, the library does not call it.
     virtual void Hide() = 0;
 
 protected:
+    /// The element that is shown; null until the widget is bound and once the element is destroyed.
     CInspectorDataElement* m_pElement = nullptr;
 
 private:

@@ -6,6 +6,9 @@
 /// INSPECTOR_STATIC is defined for a static build and by the targets that use one;
 /// INSPECTOR_BUILD is defined only while the library itself is compiled.
 
+/// \def INSPECTOR_EXPORT
+/// Stands in front of every class that crosses the boundary of the library.
+
 #if defined(INSPECTOR_STATIC)
 #define INSPECTOR_EXPORT
 #elif defined(_WIN32)

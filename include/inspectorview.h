@@ -25,16 +25,18 @@ class CInspectorDataWidget;
 class INSPECTOR_EXPORT CInspectorView
 {
 public:
+    /// What a node of the tree is.
     enum eElementKind
     {
-        eElementGroup = 0,
-        eElementRow = 1, ///< a single control or a single-line container
+        eElementGroup = 0, ///< a frame around rows and groups
+        eElementRow = 1,   ///< a single control or a single-line container
     };
 
+    /// What a holder lays out.
     enum eHolderKind
     {
-        eHolderControl = 0,
-        eHolderContainer = 1,
+        eHolderControl = 0,   ///< one control
+        eHolderContainer = 1, ///< several controls side by side
     };
 
     /// How a bound of a size request is read.
@@ -59,35 +61,44 @@ public:
     {
         /// Neither bound given, no options.
         sRequestSize();
+        /// Copies the five fields; the copy answers with the base operations.
         sRequestSize(const sRequestSize& other);
+        /// Copies the five fields.
         sRequestSize& operator=(const sRequestSize& other);
 
         /// Copies the five fields; \p source must not be null.
         void CopyValue(sRequestSize* source);
 
-        /// The setters store what they get, without any clamping. An absolute -1 means that the
-        /// bound is not given.
+        /// Sets the lower bound. Like all setters it stores what it gets, without any clamping. An
+        /// absolute -1 means that the bound is not given.
         void SetMinValue(eRequestSizeType type, int value);
+        /// Sets the lower bound in pixels.
         void SetMinValueAbsolute(int value);
+        /// Sets the lower bound in percent of the width of the row.
         void SetMinValueRelative(int value);
+        /// Sets the upper bound.
         void SetMaxValue(eRequestSizeType type, int value);
+        /// Sets the upper bound in pixels.
         void SetMaxValueAbsolute(int value);
+        /// Sets the upper bound in percent of the width of the row.
         void SetMaxValueRelative(int value);
 
+        /// All option bits.
         int GetOptions();
         /// Replaces all option bits.
         void SetOptions(int options);
 
-        /// The bound in pixels for a row of the given width, or -1 when it is not given. A relative
-        /// bound is value × width / 100, truncated toward zero.
+        /// The lower bound in pixels for a row of the given width, or -1 when it is not given. A
+        /// relative bound is value × width / 100, truncated toward zero.
         virtual int GetMinValue(int reference);
+        /// The upper bound, likewise.
         virtual int GetMaxValue(int reference);
 
-        eRequestSizeType m_eMinType = eRequestSizeAbsolute;
-        int m_iMin = -1;
-        eRequestSizeType m_eMaxType = eRequestSizeAbsolute;
-        int m_iMax = -1;
-        int m_iOptions = 0;
+        eRequestSizeType m_eMinType = eRequestSizeAbsolute; ///< how the lower bound is read
+        int m_iMin = -1;                                    ///< pixels or percent
+        eRequestSizeType m_eMaxType = eRequestSizeAbsolute; ///< how the upper bound is read
+        int m_iMax = -1;                                    ///< pixels or percent
+        int m_iOptions = 0;                                 ///< eRequestOption bits
     };
 
     /// The layout state of one control or single-line container.
@@ -95,13 +106,13 @@ public:
     {
         CInspectorDataElement* m_pElement = nullptr; ///< null for a container
         CInspectorDataWidget* m_pWidget = nullptr;   ///< null for a container
-        int m_iKind = eHolderControl;
-        sRequestSize* m_pRequest = nullptr;       ///< owned; null when no bound is given
-        std::list<sInspectorHolder*> m_lChildren; ///< a container's controls, left to right
-        int m_iWidth = 0;
-        int m_iHeight = 0;
-        int m_iX = 0; ///< before the scroll offset, as is m_iY
-        int m_iY = 0;
+        int m_iKind = eHolderControl;                ///< an eHolderKind
+        sRequestSize* m_pRequest = nullptr;          ///< owned; null when no bound is given
+        std::list<sInspectorHolder*> m_lChildren;    ///< a container's controls, left to right
+        int m_iWidth = 0;                            ///< as handed to ResizeWidget
+        int m_iHeight = 0;                           ///< as handed to ResizeWidget
+        int m_iX = 0; ///< as handed to MoveWidget, before the scroll offset
+        int m_iY = 0; ///< as handed to MoveWidget, before the scroll offset
 
         /// True once the widget was destroyed; the holder stays, and nothing is called on it.
         bool m_bWidgetGone = false;
@@ -115,33 +126,34 @@ public:
     /// A node of the tree. Its address is its identity and stays valid until the node is removed.
     struct sInspectorElement
     {
-        int m_iKind = eElementGroup;
+        int m_iKind = eElementGroup;              ///< an eElementKind
         std::list<sInspectorElement> m_lChildren; ///< only groups have children
         sInspectorHolder* m_pHolder = nullptr;    ///< null for a group
         std::string m_sName;                      ///< the caption or label; may be empty
         sInspectorElement* m_pParent = nullptr;   ///< null at the top level
-        int m_iWidth = 0;
-        int m_iHeight = 0;
-        int m_iX = 0;
-        int m_iY = 0;
-        int m_iLabelWidth = 0;
+        int m_iWidth = 0;                         ///< set by the width pass
+        int m_iHeight = 0;                        ///< of the row, or of the group with its frame
+        int m_iX = 0;                             ///< left edge
+        int m_iY = 0;                             ///< top edge, before the scroll offset
+        int m_iLabelWidth = 0;                    ///< of a row's label column
     };
 
     /// One control of a single-line container while the width is shared out.
     struct sPositionHolder
     {
-        int m_iMin = 0;
-        int m_iMax = 0;
-        sInspectorHolder* m_pHolder = nullptr;
-        int m_iWidth = 0; ///< given so far; starts at the minimum
-        int m_iRoom = 0;  ///< maximum - minimum
-        int m_iIndex = 0; ///< place in the container
+        int m_iMin = 0;                        ///< resolved lower bound
+        int m_iMax = 0;                        ///< resolved upper bound
+        sInspectorHolder* m_pHolder = nullptr; ///< of the control
+        int m_iWidth = 0;                      ///< given so far; starts at the minimum
+        int m_iRoom = 0;                       ///< maximum - minimum
+        int m_iIndex = 0;                      ///< place in the container
     };
 
     CInspectorView();
     /// A copy shares the holders with its source: only one of the two may be emptied or destroyed
     /// while the other is in use.
     CInspectorView(const CInspectorView& other);
+    /// Shares the other's holders, as a copy does.
     CInspectorView& operator=(const CInspectorView& other);
     /// Calls RemoveAll. A controller that knows the view is made to forget it.
     virtual ~CInspectorView();
@@ -186,24 +198,23 @@ public:
     /// control in the order of the holders' addresses, UpdateView and OnContentHeightSet.
     virtual void RecomputeLayout();
 
-    /// The width pass in normal and in preview mode; fill the holders and call no widget but for
-    /// its required width.
+    /// The width pass: label and control widths. Fills the holders and asks the widgets for nothing
+    /// but their required widths.
     virtual void ComputeHoldersWidth();
+    /// The width pass of preview mode: all controls side by side in one strip.
     virtual void ComputeHoldersWidthForPreview();
 
     /// For the toolkit class: scroll the widget into sight. Does nothing here.
     virtual void EnsureVisible(CInspectorDataWidget* widget);
 
-    /// Margins of the whole panel: 5, or 0 in preview mode.
-    virtual int GetInspectorLeftMargin();
-    virtual int GetInspectorRightMargin();
-    virtual int GetInspectorTopMargin();
-    virtual int GetInspectorBottomMargin();
-    /// Margins of a group inside its frame: 5, or 0 in preview mode.
-    virtual int GetGroupLeftMargin();
-    virtual int GetGroupRightMargin();
-    virtual int GetGroupTopMargin();
-    virtual int GetGroupBottomMargin();
+    virtual int GetInspectorLeftMargin();   ///< of the whole panel: 5, or 0 in preview mode
+    virtual int GetInspectorRightMargin();  ///< of the whole panel: 5, or 0 in preview mode
+    virtual int GetInspectorTopMargin();    ///< of the whole panel: 5, or 0 in preview mode
+    virtual int GetInspectorBottomMargin(); ///< of the whole panel: 5, or 0 in preview mode
+    virtual int GetGroupLeftMargin();       ///< inside a group's frame: 5, or 0 in preview mode
+    virtual int GetGroupRightMargin();      ///< inside a group's frame: 5, or 0 in preview mode
+    virtual int GetGroupTopMargin();        ///< inside a group's frame: 5, or 0 in preview mode
+    virtual int GetGroupBottomMargin();     ///< inside a group's frame: 5, or 0 in preview mode
     /// Height of the title line of a named group: 10, or 0 in preview mode.
     virtual int GetGroupLabelHeight();
     /// The gap below every row and group: 5, or 0 in preview mode.
@@ -256,27 +267,32 @@ protected:
     /// The holder of a widget; null when there is none. Of several the one with the lowest address.
     sInspectorHolder* GetHolderFromControl(CInspectorDataWidget* widget);
 
-    /// The passes of a layout, for derived classes that replace one of them.
+    /// Lists what the width pass handles below \p parent (null for the top level): a run of sibling
+    /// rows as their parent, or a row by itself; in preview mode every node.
     void recBuildListElementToComputeWidth(sInspectorElement* parent,
                                            std::list<sInspectorElement*>& list);
+    /// Fills \p list with an entry for each control of the container.
     void BuildPositionHolderListFromContainer(sInspectorElement* container,
                                               std::list<sPositionHolder>& list);
+    /// Shares \p available pixels out among the \p growable controls that have room, those with the
+    /// least room first, and places all of them; -1 for either means that both are computed.
     void PositionChildrenInContainer(sInspectorElement* container, std::list<sPositionHolder>& list,
                                      int available, int growable);
+    /// Stacks the nodes between \p left and \p right from \p y on, which ends below them.
     void recRecomputeLayout(std::list<sInspectorElement>& list, int& left, int& right, int& y);
 
     std::set<sInspectorHolder*> m_setControlHolders; ///< every holder with a widget
     std::set<sInspectorHolder*> m_setHolders;        ///< every holder; owned
-    std::list<sInspectorElement> m_lElements;
-    CInspectorController* m_pController = nullptr;
-    int m_iInspectorWidth = 0;
-    int m_iInspectorHeight = 0;
-    int m_iContentHeight = 0;
-    bool m_bAlignLabels = true; ///< sibling rows share one label width
-    int m_iOffsetX = 0;
-    int m_iOffsetY = 0;
-    bool m_bPreview = false;
-    bool m_bContentShown = true;
+    std::list<sInspectorElement> m_lElements;        ///< the top level of the tree
+    CInspectorController* m_pController = nullptr;   ///< not owned
+    int m_iInspectorWidth = 0;                       ///< as set by ResizeInspector
+    int m_iInspectorHeight = 0;                      ///< as set by ResizeInspector
+    int m_iContentHeight = 0;                        ///< of the last layout
+    bool m_bAlignLabels = true;                      ///< sibling rows share one label width
+    int m_iOffsetX = 0;                              ///< the last offset of OffsetControls
+    int m_iOffsetY = 0;                              ///< the last offset of OffsetControls
+    bool m_bPreview = false;                         ///< preview mode
+    bool m_bContentShown = true;                     ///< false while the controls are hidden
 
 private:
     friend class CInspectorController;

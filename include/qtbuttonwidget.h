@@ -30,7 +30,9 @@ public:
     void Hide() override;
 
 protected:
+    /// Draws the face with the application's style and remembers where it is.
     void paintEvent(QPaintEvent* event) override;
+    /// Fires for a press on the face.
     void mousePressEvent(QMouseEvent* event) override;
 
     /// The bound element; null when there is none or it is of another type.

@@ -53,15 +53,21 @@ public:
     static std::shared_ptr<CInPlaceList> g_pInPlaceList; ///< the shared list
 
 protected:
+    /// Draws the combo box and the display text of the value.
     void paintEvent(QPaintEvent* event) override;
+    /// Drops the list down for a left press, also for a read-only element.
     void mousePressEvent(QMouseEvent* event) override;
 
     /// The bound element; null when there is none or it is of another type.
     CEnumDataElement* GetSafeEnumData();
+    /// The bound element as a provider of text; null when it is none.
     ISimpleDataProvider* GetSafeControlDataProvider();
 
+    /// The value as shown (not its display text).
     QString m_sText;
+    /// The order of the list.
     int m_iSortingMethod = 2;
+    /// The shared list, which lives as long as any widget holds it.
     std::shared_ptr<CInPlaceList> m_pInPlaceList;
 
 private:

@@ -31,6 +31,7 @@ public:
     /// Shows a one-line message in the given colour instead of frames and labels; an empty message
     /// shows them again. The controls stay where they are: see ShowContent.
     void SetPreviewMessage(const std::string& message, QColor color);
+    /// Whether a message is set.
     bool HasPreviewMessage();
 
     /// Resizes the panel in pixels and lays it out anew if the size changed; 20 pixels of the width
@@ -57,15 +58,21 @@ public:
     void ParentControlToInspector(CInspectorDataWidget* widget) override;
 
 protected:
+    /// Delivers the controller's notices, then draws frames, titles and labels, or the message.
     void paintEvent(QPaintEvent* event) override;
 
 protected Q_SLOTS:
+    /// Moves the controls to the scroll bar's value.
     void SliderValueChanged(int value);
 
 protected:
+    /// Parent of all controls; owned.
     QWidget* m_pContent;
+    /// Shown while the content is taller than the panel; owned.
     QScrollBar* m_pScrollBar;
+    /// Drawn instead of frames and labels when it is not empty.
     std::string m_sPreviewMessage;
+    /// Of the message; invalid at first.
     QColor m_colorPreview;
 
 private:

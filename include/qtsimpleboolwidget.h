@@ -31,11 +31,14 @@ public:
     bool GetValue();
 
 protected:
+    /// Draws the box, and the cross for true.
     void paintEvent(QPaintEvent* event) override;
+    /// Toggles for a press in the columns of the box.
     void mousePressEvent(QMouseEvent* event) override;
 
     /// The bound element; null when there is none or it is of another type.
     CBoolDataElement* GetSafeData();
 
+    /// The value as shown.
     bool m_bValue = false;
 };

@@ -52,14 +52,20 @@ public:
     static int g_iInPlaceRefCount;   ///< the number of fields
 
 protected:
+    /// Draws the text on the palette's base colour.
     void paintEvent(QPaintEvent* event) override;
+    /// Calls StartEditing for a left press, unless the element is read-only.
     void mousePressEvent(QMouseEvent* event) override;
+    /// As any widget does.
     void showEvent(QShowEvent* event) override;
+    /// As any widget does; an open editor stays open.
     void hideEvent(QHideEvent* event) override;
 
     /// The bound element; null when there is none or it is of another type.
     CSimpleDataElement* GetSafeSimpleData();
+    /// The bound element as a provider of text; null when it is none.
     ISimpleDataProvider* GetSafeControlDataProvider();
 
+    /// The text as shown.
     QString m_sText;
 };

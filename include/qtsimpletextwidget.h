@@ -37,6 +37,7 @@ public:
     void GetDataAsString(std::string& out) override;
 
 protected:
+    /// Hands the text to the element.
     void focusOutEvent(QFocusEvent* event) override;
 
     /// The bound element; null when there is none or it is of another type.

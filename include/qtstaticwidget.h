@@ -26,6 +26,7 @@ public:
     void Hide() override;
 
 protected:
+    /// Draws the text and no background.
     void paintEvent(QPaintEvent* event) override;
 
     /// The bound element; null when there is none or it is of another type.

@@ -11,12 +11,15 @@
 class INSPECTOR_EXPORT CQTTextEncoding
 {
 public:
+    /// How bytes are read as characters.
     enum eTextEncoding
     {
         eTextEncodingLatin1 = 0, ///< one byte a character; the default
         eTextEncodingUtf8 = 1,
     };
 
+    /// Chooses the encoding; what is on the screen already is not read again.
     static void SetEncoding(eTextEncoding encoding);
+    /// The encoding in use.
     static eTextEncoding GetEncoding();
 };

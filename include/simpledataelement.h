@@ -10,7 +10,9 @@ class INSPECTOR_EXPORT CSimpleDataElement : public CInspectorDataElement, public
 {
 public:
     CSimpleDataElement();
+    /// A copy has the same value and shares the widget and the controller.
     CSimpleDataElement(const CSimpleDataElement& other);
+    /// Copies the value and shares the widget and the controller from now on.
     CSimpleDataElement& operator=(const CSimpleDataElement& other);
     ~CSimpleDataElement() override;
 
@@ -33,6 +35,7 @@ public:
     virtual void OnCtrlValueChange();
     using CInspectorDataElement::OnCtrlValueChange;
 
+    /// The value; the reference is good until the value changes.
     const std::string& GetStrCurrentValue() const;
     /// Stores the value; neither the hook nor the widget is told.
     void SetStrCurrentValue(const std::string& value);
@@ -43,5 +46,6 @@ protected:
     /// The bound widget as a provider of text; null when there is none or it is not a provider.
     ISimpleDataProvider* GetSafeControlDataProvider();
 
+    /// The value; empty at first.
     std::string m_sValue;
 };
