@@ -119,6 +119,9 @@ void CInPlaceEdit::Dispose()
 
 bool CInPlaceEdit::event(QEvent* event)
 {
+    // The end of what Dispose put off; there is no editor afterwards.
+    if (event->type() == QEvent::DeferredDelete)
+        return QLineEdit::event(event);
     const CInUse inUse(m_iInUse);
     switch (event->type())
     {

@@ -132,6 +132,9 @@ void CInPlaceList::OnItemClicked(QListWidgetItem* item)
 
 bool CInPlaceList::event(QEvent* event)
 {
+    // The end of what Dispose put off; there is no editor afterwards.
+    if (event->type() == QEvent::DeferredDelete)
+        return QListWidget::event(event);
     const CInUse inUse(m_iInUse);
     switch (event->type())
     {
