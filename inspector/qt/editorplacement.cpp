@@ -1,11 +1,87 @@
 #include "editorplacement.h"
 
+#include "droprect.h"
+#include "qtcompat.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QGuiApplication>
 #include <QWidget>
 
-void ShowEditor(QWidget& editor, QWidget&, const QRect& rect)
+namespace
 {
-    editor.setGeometry(rect);
-    editor.setWindowFlags(Qt::ToolTip);
-    editor.show();
-    editor.activateWindow();
+
+/// Whether editors float in the window of their owner.
+bool FloatsAsChild()
+{
+    const QByteArray wanted = qgetenv("INSPECTOR_EDITOR");
+    if (wanted == "child" || wanted == "window")
+        return wanted == "child";
+    // A compositor shows a tool-tip window but never gives it the keyboard.
+    return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
+
+} // namespace
+
+CEditorPlacement::CEditorPlacement(QWidget& editor) : m_rEditor(editor), m_OutsidePress(editor)
+{
+}
+
+void CEditorPlacement::Show(QWidget& owner, const QRect& rect)
+{
+    // What was left to be said about an earlier place is void.
+    QCoreApplication::removePostedEvents(&m_rEditor, QEvent::WindowDeactivate);
+    if (!m_rEditor.isWindow())
+        Hide();
+    if (FloatsAsChild())
+    {
+        FloatIn(*owner.window(), rect);
+        return;
+    }
+    m_rEditor.setAttribute(Qt::WA_NoMousePropagation, false);
+    m_rEditor.setGeometry(rect);
+    m_rEditor.setWindowFlags(Qt::ToolTip);
+    m_rEditor.show();
+    m_rEditor.activateWindow();
+}
+
+void CEditorPlacement::FloatIn(QWidget& window, const QRect& rect)
+{
+    m_pFocusBefore = window.focusWidget();
+    // What the editor ignores must not reach the window below it, as it would not from a window of
+    // its own.
+    m_rEditor.setAttribute(Qt::WA_NoMousePropagation);
+    m_OutsidePress.Watch(window);
+    m_rEditor.setParent(&window, Qt::Widget);
+    m_rEditor.setGeometry(QRect(window.mapFromGlobal(rect.topLeft()), rect.size()));
+    m_rEditor.show();
+    m_rEditor.raise();
+}
+
+QRect CEditorPlacement::ListRect(const QWidget& owner, const QRect& area, int wantedHeight)
+{
+    if (!FloatsAsChild())
+        return DropRect(owner, area, wantedHeight, DesktopRect());
+    const QWidget& window = *owner.window();
+    const QRect bounds(window.mapToGlobal(QPoint(0, 0)), window.size());
+    return DropRect(owner, area, wantedHeight, bounds) & bounds;
+}
+
+void CEditorPlacement::Hide()
+{
+    m_OutsidePress.Stop();
+    if (m_rEditor.isWindow())
+    {
+        m_rEditor.hide();
+        return;
+    }
+    // Hidden with the focus, the editor would pass it on to any neighbour.
+    const QWidget* focus = m_rEditor.window()->focusWidget();
+    const bool hadFocus = focus == &m_rEditor || m_rEditor.isAncestorOf(focus);
+    if (hadFocus)
+        m_rEditor.clearFocus();
+    m_rEditor.hide();
+    m_rEditor.setParent(nullptr);
+    if (hadFocus && m_pFocusBefore)
+        m_pFocusBefore->setFocus(Qt::OtherFocusReason);
 }

@@ -3,7 +3,6 @@
 #include <inplaceeditsink.h>
 #include <qtsimpledatawidget.h>
 
-#include "editorplacement.h"
 #include "inuse.h"
 #include "text.h"
 
@@ -42,7 +41,7 @@ std::optional<eCause> CauseOf(const QKeyEvent& key)
 
 } // namespace
 
-CInPlaceEdit::CInPlaceEdit()
+CInPlaceEdit::CInPlaceEdit() : m_Placement(*this)
 {
     // A value is never cut, however long it is.
     setMaxLength(std::numeric_limits<int>::max());
@@ -51,7 +50,7 @@ CInPlaceEdit::CInPlaceEdit()
 
 CInPlaceEdit::~CInPlaceEdit()
 {
-    // A window that is destroyed takes the editor along that floats in it.
+    // Nobody but the fields frees the editor; if somebody does, they get a new one.
     if (CQTSimpleDataWidget::g_pInPlace == this)
         CQTSimpleDataWidget::g_pInPlace = nullptr;
 }
@@ -87,8 +86,8 @@ void CInPlaceEdit::StartEditing(QWidget& owner, const QRect& area)
 {
     const CInUse inUse(m_iInUse);
     EndEditing();
-    ShowEditor(*this, owner,
-               QRect(owner.mapToGlobal(area.topLeft()), owner.mapToGlobal(area.bottomRight())));
+    m_Placement.Show(
+        owner, QRect(owner.mapToGlobal(area.topLeft()), owner.mapToGlobal(area.bottomRight())));
     m_bEditing = true;
     setFocus(Qt::OtherFocusReason);
     selectAll();
@@ -102,7 +101,7 @@ void CInPlaceEdit::EndEditing()
 void CInPlaceEdit::HideSilently()
 {
     m_bEditing = false;
-    hide();
+    m_Placement.Hide();
 }
 
 void CInPlaceEdit::Dispose()
@@ -128,7 +127,12 @@ bool CInPlaceEdit::event(QEvent* event)
     case QEvent::KeyPress:
         if (const auto cause = CauseOf(*static_cast<QKeyEvent*>(event)))
             return EndWith(*cause);
-        break;
+        [[fallthrough]];
+    case QEvent::KeyRelease:
+        // A key that the line edit has no use for must not reach the window that it may float in.
+        QLineEdit::event(event);
+        event->accept();
+        return true;
     case QEvent::WindowDeactivate:
         if (m_bEditing)
             return EndWith(CInspectorDataElement::eEndEditFocusLost);
@@ -137,6 +141,8 @@ bool CInPlaceEdit::event(QEvent* event)
         // What is typed here belongs to the value, never to a shortcut of the host.
         event->accept();
         return true;
+    case QEvent::FocusOut:
+        return LoseFocus(*static_cast<QFocusEvent*>(event));
     case QEvent::InputMethod:
         m_sComposition = static_cast<QInputMethodEvent*>(event)->preeditString();
         break;
@@ -154,6 +160,18 @@ bool CInPlaceEdit::EndWith(eCause cause)
         setText(m_sStart);
     Q_EMIT editingFinished();
     return true;
+}
+
+bool CInPlaceEdit::LoseFocus(QFocusEvent& event)
+{
+    // In a window of the host, the focus can go elsewhere without a deactivation.
+    const bool isLeft = !isWindow() && event.reason() != Qt::PopupFocusReason;
+    if (isLeft)
+        m_iCause = CInspectorDataElement::eEndEditFocusLost;
+    const bool isHandled = QLineEdit::event(&event);
+    if (isLeft)
+        EndEditing();
+    return isHandled;
 }
 
 void CInPlaceEdit::CommitComposition()
@@ -181,7 +199,7 @@ void CInPlaceEdit::OnFinishEditing()
     const std::string value = ToNarrow(m_sCurrent);
     const auto cause = static_cast<eCause>(m_iCause);
     m_bEditing = false;
-    hide();
+    m_Placement.Hide();
     if (m_pSink)
         m_pSink->FinishValueEdit(value.c_str(), cause);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "editorplacement.h"
+
 #include <inspectordataelement.h>
 
 #include <QLineEdit>
@@ -47,6 +49,7 @@ private Q_SLOTS:
 
 private:
     bool EndWith(CInspectorDataElement::eEndEditCause cause);
+    bool LoseFocus(QFocusEvent& event);
     void CommitComposition();
 
     QString m_sStart;
@@ -56,4 +59,5 @@ private:
     int m_iCause = CInspectorDataElement::eEndEditFocusLost;
     QString m_sComposition; ///< what an input method is still composing
     int m_iInUse = 0;
+    CEditorPlacement m_Placement;
 };

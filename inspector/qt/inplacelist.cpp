@@ -2,10 +2,7 @@
 
 #include <inplaceeditsink.h>
 
-#include "droprect.h"
-#include "editorplacement.h"
 #include "inuse.h"
-#include "qtcompat.h"
 #include "text.h"
 
 #include <QKeyEvent>
@@ -21,7 +18,7 @@ constexpr int g_iRowsAtMost = 15;
 
 } // namespace
 
-CInPlaceList::CInPlaceList()
+CInPlaceList::CInPlaceList() : m_Placement(*this)
 {
     setSelectionMode(QAbstractItemView::SingleSelection);
     connect(this, SIGNAL(itemClicked(QListWidgetItem*)), SLOT(OnItemClicked(QListWidgetItem*)));
@@ -41,7 +38,7 @@ void CInPlaceList::Dispose(CInPlaceList* list)
         return;
     }
     list->m_bOpen = false;
-    list->hide();
+    list->m_Placement.Hide();
     list->deleteLater();
 }
 
@@ -84,7 +81,7 @@ void CInPlaceList::Start(QWidget& owner, const QRect& area, const char* value)
             break;
         }
     }
-    ShowEditor(*this, owner, DropRect(owner, area, WantedHeight(), DesktopRect()));
+    m_Placement.Show(owner, CEditorPlacement::ListRect(owner, area, WantedHeight()));
     m_bOpen = true;
     setFocus(Qt::OtherFocusReason);
 }
@@ -114,7 +111,7 @@ void CInPlaceList::EndChoice()
     if (choice != m_uiChoice)
         return;
     m_bOpen = false;
-    hide();
+    m_Placement.Hide();
 }
 
 void CInPlaceList::OnItemClicked(QListWidgetItem* item)
@@ -144,6 +141,11 @@ bool CInPlaceList::event(QEvent* event)
                               : CInspectorDataElement::eEndEditFocusLost);
     case QEvent::WindowDeactivate:
         return CancelWith(CInspectorDataElement::eEndEditFocusLost);
+    case QEvent::FocusOut:
+        // In a window of the host, the focus can go elsewhere without a deactivation.
+        if (!isWindow() && static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason)
+            CancelWith(CInspectorDataElement::eEndEditFocusLost);
+        return QListWidget::event(event);
     case QEvent::ShortcutOverride:
         // A key that closes the list must not trigger a shortcut of the host as well.
         event->accept();

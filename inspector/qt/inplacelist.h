@@ -1,5 +1,7 @@
 #pragma once
 
+#include "editorplacement.h"
+
 #include <inspectordataelement.h>
 
 #include <QListWidget>
@@ -56,4 +58,5 @@ private:
     unsigned m_uiChoice = 1; ///< which choice the list is open for
     unsigned m_uiEnding = 0; ///< which choice is being reported; 0 for none
     int m_iInUse = 0;
+    CEditorPlacement m_Placement;
 };

@@ -1,0 +1,100 @@
+#include "outsidepress.h"
+
+#include "qtcompat.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QWidget>
+#include <QWindow>
+
+COutsidePress::COutsidePress(QWidget& editor) : m_rEditor(editor)
+{
+}
+
+void COutsidePress::Watch(QWidget& window)
+{
+    Stop();
+    m_pWindow = &window;
+    connect(&window, SIGNAL(destroyed()), SLOT(OnWindowDestroyed()));
+    qApp->installEventFilter(this);
+}
+
+void COutsidePress::Stop()
+{
+    if (!m_pWindow)
+        return;
+    qApp->removeEventFilter(this);
+    disconnect(m_pWindow, nullptr, this, nullptr);
+    m_pWindow = nullptr;
+}
+
+bool COutsidePress::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Hide && watched == &m_rEditor)
+        LeaveLater();
+    // A window that arranges its children, as a splitter does, must not arrange the editor.
+    if (event->type() == QEvent::ChildAdded || event->type() == QEvent::ChildPolished)
+        return static_cast<QChildEvent*>(event)->child() == &m_rEditor;
+    if (!IsOutside(watched, *event))
+        return false;
+    // The report may make the host destroy whatever the event was for.
+    const QPointer<QObject> receiver(watched);
+    QEvent left(QEvent::WindowDeactivate);
+    QCoreApplication::sendEvent(&m_rEditor, &left);
+    if (receiver)
+        return false;
+    event->accept();
+    return true;
+}
+
+bool COutsidePress::IsOutside(const QObject* watched, const QEvent& event) const
+{
+    switch (event.type())
+    {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    {
+        if (watched->isWidgetType())
+            return !IsPartOfEditor(watched);
+        // A window knows of a press before its widgets do. Once one of them is on its way to the
+        // keyboard focus it must not be destroyed any more, so this is the time to report.
+        const auto* window = qobject_cast<const QWindow*>(watched);
+        QWidget* widget =
+            window && !QApplication::activePopupWidget() ? QWidget::find(window->winId()) : nullptr;
+        if (!widget)
+            return false;
+        QWidget* child = widget->childAt(PressPosition(static_cast<const QMouseEvent&>(event)));
+        return !IsPartOfEditor(child ? child : widget);
+    }
+    case QEvent::TouchBegin:
+    case QEvent::TabletPress:
+        return watched->isWidgetType() && !IsPartOfEditor(watched);
+    case QEvent::WindowDeactivate:
+    case QEvent::Close:
+        return watched == m_pWindow;
+    default:
+        return false;
+    }
+}
+
+bool COutsidePress::IsPartOfEditor(const QObject* object) const
+{
+    // Across windows too: the editor's context menu belongs to it.
+    while (object && object != &m_rEditor)
+        object = object->parent();
+    return object != nullptr;
+}
+
+void COutsidePress::LeaveLater()
+{
+    // The window may be hidden because it is being destroyed, which is no time to call the host.
+    QCoreApplication::postEvent(&m_rEditor, new QEvent(QEvent::WindowDeactivate));
+}
+
+void COutsidePress::OnWindowDestroyed()
+{
+    Stop();
+    m_rEditor.setParent(nullptr);
+    LeaveLater();
+}
