@@ -55,7 +55,10 @@ int CRecordingWidget::GetRequiredWidth()
 int CRecordingWidget::GetRequiredHeight(int width)
 {
     m_pLog->Add(m_sName, "GetRequiredHeight", {std::to_string(width)});
-    return m_iHeightDivisor == 0 ? m_iRequiredHeight : m_iRequiredHeight + width / m_iHeightDivisor;
+    if (m_iHeightDivisor == 0)
+        return m_iRequiredHeight;
+    const auto height = static_cast<unsigned>(m_iRequiredHeight);
+    return static_cast<int>(height + static_cast<unsigned>(width / m_iHeightDivisor));
 }
 
 void CRecordingWidget::ResizeWidget(int width, int height)
