@@ -14,7 +14,7 @@ class INSPECTOR_EXPORT CInspectorDataElement
 {
 public:
     /// Why an in-place edit ended.
-    enum eEndEditCause
+    enum eEndEditCause : int
     {
         eEndEditCancel = 0,    ///< Escape: the start value was restored
         eEndEditValidate = 1,  ///< Return or Enter

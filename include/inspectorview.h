@@ -40,7 +40,7 @@ public:
     };
 
     /// How a bound of a size request is read.
-    enum eRequestSizeType
+    enum eRequestSizeType : int
     {
         eRequestSizeAbsolute = 0, ///< pixels
         eRequestSizeRelative = 1, ///< percent of the reference width
