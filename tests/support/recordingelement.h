@@ -45,6 +45,7 @@ public:
     {
         m_log.Add(m_sName, "Connect");
         Element::Connect();
+        RunHook(m_fnConnect);
     }
 
     void Disconnect() override
@@ -60,6 +61,7 @@ public:
     std::string m_sName;
     CHook m_fnInternalValueChanged;
     CHook m_fnOnEndEditing; ///< in place of the base operation
+    CHook m_fnConnect;
     CHook m_fnDisconnect;
     CHook m_fnDestroyed;
 

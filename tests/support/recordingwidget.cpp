@@ -22,6 +22,7 @@ void CRecordingWidget::SetDataElement(CInspectorDataElement* element)
 void CRecordingWidget::InitFromElement()
 {
     m_pLog->Add(m_sName, "InitFromElement");
+    RunHook(m_fnInitFromElement);
 }
 
 const char* CRecordingWidget::GetType()

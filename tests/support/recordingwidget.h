@@ -41,6 +41,7 @@ public:
     int m_iY = 0;
     int m_iWidth = 0;
     int m_iHeight = 0;
+    CHook m_fnInitFromElement;
     CHook m_fnStartEditing;
     CHook m_fnOnValueChange;
     CHook m_fnDestroyed;
