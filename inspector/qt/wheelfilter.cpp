@@ -3,6 +3,8 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 
+#include <algorithm>
+
 CWheelFilter::CWheelFilter(QObject& panel, QScrollBar& scrollBar, int pixelsPerNotch)
     : QObject(&panel), m_rScrollBar(scrollBar), m_iPixelsPerNotch(pixelsPerNotch)
 {
@@ -15,14 +17,16 @@ bool CWheelFilter::eventFilter(QObject* watched, QEvent* event)
     if (event->type() != QEvent::Wheel || m_rScrollBar.isHidden())
         return QObject::eventFilter(watched, event);
     const auto* wheel = static_cast<QWheelEvent*>(event);
-    int pixels = wheel->pixelDelta().y();
+    qint64 pixels = wheel->pixelDelta().y();
     if (wheel->pixelDelta().isNull())
     {
-        const int turned = m_iRemainder + wheel->angleDelta().y() * m_iPixelsPerNotch;
+        const qint64 turned = m_iRemainder + qint64(wheel->angleDelta().y()) * m_iPixelsPerNotch;
         pixels = turned / QWheelEvent::DefaultDeltasPerStep;
-        m_iRemainder = turned % QWheelEvent::DefaultDeltasPerStep;
+        m_iRemainder = static_cast<int>(turned % QWheelEvent::DefaultDeltasPerStep);
     }
-    m_rScrollBar.setValue(m_rScrollBar.value() - pixels);
+    const qint64 value = std::clamp<qint64>(m_rScrollBar.value() - pixels, m_rScrollBar.minimum(),
+                                            m_rScrollBar.maximum());
+    m_rScrollBar.setValue(static_cast<int>(value));
     event->accept();
     return true;
 }
