@@ -13,8 +13,8 @@ namespace
 
 constexpr int g_iLabelFlags = Qt::AlignLeft | Qt::AlignVCenter;
 
-/// Whether something drawn in a rectangle may be seen in another. Text and frames stay in their
-/// rectangle but for the width of a line; nothing is known about a rectangle turned inside out.
+/// Whether something drawn in a rectangle may be seen in another. A frame stays in its rectangle
+/// but for the width of its line; nothing is known about a rectangle turned inside out.
 bool MayShow(const QRectF& drawn, const QRect& exposed)
 {
     return drawn.width() <= 0 || drawn.height() <= 0 ||
@@ -39,6 +39,9 @@ void CQTInspectorView::paintEvent(QPaintEvent* event)
     }
     if (!m_bContentShown)
         return;
+    // Slanted letters and stacked marks stand out of the rectangle that their text is measured by.
+    const int reach = 2 * painter.fontMetrics().height();
+    const QRect exposed = event->rect().adjusted(-reach, -reach, reach, reach);
     // Level by level, so that a frame never runs over what is inside it.
     std::deque<const std::list<sInspectorElement>*> lists{&m_lElements};
     for (; !lists.empty(); lists.pop_front())
@@ -46,9 +49,9 @@ void CQTInspectorView::paintEvent(QPaintEvent* event)
         for (const sInspectorElement& element : *lists.front())
         {
             if (element.m_iKind == eElementRow)
-                PaintLabel(painter, event->rect(), element);
+                PaintLabel(painter, exposed, element);
             else if (!m_bPreview)
-                PaintGroup(painter, event->rect(), element);
+                PaintGroup(painter, exposed, element);
             if (!element.m_lChildren.empty())
                 lists.push_back(&element.m_lChildren);
         }
