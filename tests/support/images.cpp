@@ -25,6 +25,8 @@ QImage Blank(const QWidget& widget, qreal ratio)
 QRect Difference(const QImage& a, const QImage& b)
 {
     QRect bounds;
+    if (a == b)
+        return bounds;
     for (int y = 0; y < a.height(); ++y)
     {
         for (int x = 0; x < a.width(); ++x)
@@ -71,7 +73,6 @@ QImage images::Paint(const QWidget& widget, const std::function<void(QPainter&)>
     painter.setPen(QPen(palette.brush(widget.foregroundRole()), 1));
     painter.setBackground(palette.brush(widget.backgroundRole()));
     painter.setFont(widget.font());
-    painter.setLayoutDirection(widget.layoutDirection());
     paint(painter);
     return image;
 }

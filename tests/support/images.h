@@ -16,7 +16,7 @@ namespace images
 QImage Render(QWidget& widget, qreal ratio = 1, const QRegion& region = QRegion());
 
 /// A picture of the widget's size with the widget's background, on which the test paints with a
-/// painter as Qt gives it to that widget: its pen, font, background and direction.
+/// painter as Qt gives it to that widget: with its pen, font and background.
 QImage Paint(const QWidget& widget, const std::function<void(QPainter&)>& paint, qreal ratio = 1);
 
 /// Fails the test unless the pictures are the same, pixel by pixel. With the environment variable

@@ -1,0 +1,284 @@
+#include "paintedpanel.h"
+
+#include <qttextencoding.h>
+#include <simpledataelement.h>
+
+#include <QApplication>
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <string>
+
+namespace
+{
+
+/// The picture with nothing outside of a rectangle of the widget's coordinates.
+QImage Cut(const QImage& picture, const QRect& part)
+{
+    QImage cut(picture.size(), picture.format());
+    cut.setDevicePixelRatio(picture.devicePixelRatio());
+    cut.fill(Qt::transparent);
+    const int ratio = static_cast<int>(picture.devicePixelRatio());
+    const auto bytes = static_cast<std::size_t>(part.width() * ratio) * sizeof(QRgb);
+    for (int y = part.top() * ratio; y < (part.bottom() + 1) * ratio; ++y)
+    {
+        const auto line = [&](auto* start) { return start + part.left() * ratio; };
+        std::memcpy(line(reinterpret_cast<QRgb*>(cut.scanLine(y))),
+                    line(reinterpret_cast<const QRgb*>(picture.constScanLine(y))), bytes);
+    }
+    return cut;
+}
+
+void ExpectSameInPart(QWidget& widget, const QImage& whole, const QRect& part)
+{
+    SCOPED_TRACE("part " + std::to_string(part.x()) + "," + std::to_string(part.y()) + " " +
+                 std::to_string(part.width()) + "x" + std::to_string(part.height()));
+    images::ExpectSame(images::Render(widget, whole.devicePixelRatio(), part), Cut(whole, part));
+}
+
+/// Whatever part is repainted, its pixels are those of the whole picture: strips of one pixel and
+/// tiles find what stands out of the rectangle that it is drawn in.
+void ExpectSameInEveryPart(QWidget& widget)
+{
+    const QImage whole = images::Render(widget);
+    for (int x = 0; x < widget.width(); ++x)
+        ExpectSameInPart(widget, whole, QRect(x, 0, 1, widget.height()));
+    for (int y = 0; y < widget.height(); ++y)
+        ExpectSameInPart(widget, whole, QRect(0, y, widget.width(), 1));
+    for (const qreal ratio : {1.0, 2.0})
+    {
+        const QImage picture = images::Render(widget, ratio);
+        for (int y = 0; y < widget.height(); y += 17)
+        {
+            for (int x = 0; x < widget.width(); x += 23)
+                ExpectSameInPart(widget, picture, QRect(x, y, 23, 17) & widget.rect());
+        }
+    }
+}
+
+/// A view whose label widths are wrong.
+class CNarrowView : public CQTInspectorView
+{
+public:
+    void UpdateView() override {}
+    int GetElementLabelWidth(sInspectorElement* element) override
+    {
+        return element->m_sName.size() > 4 ? m_iLabelWidth : 0;
+    }
+
+    int m_iLabelWidth = 0;
+};
+
+} // namespace
+
+TEST(QtInspectorViewRepainting, GivesTheSamePixelsInEveryPart)
+{
+    sNestedPanel panel;
+    panel.m_view.ResizeInspector(300, 150);
+    ExpectSameInEveryPart(panel.m_view);
+}
+
+TEST(QtInspectorViewRepainting, GivesTheSamePixelsInEveryPartOfAScrolledPanel)
+{
+    sNestedPanel panel;
+    panel.m_view.ResizeInspector(300, 90);
+    panel.m_view.m_pScrollBar->hide();
+    panel.m_view.m_pScrollBar->setValue(30);
+    ExpectSameInEveryPart(panel.m_view);
+}
+
+TEST(QtInspectorViewRepainting, GivesTheSamePixelsInEveryPartOfAPreview)
+{
+    sNestedPanel panel;
+    panel.m_view.SetPreviewMode(true);
+    panel.m_view.ResizeInspector(300, 40);
+    ExpectSameInEveryPart(panel.m_view);
+}
+
+TEST(QtInspectorViewRepainting, GivesTheSamePixelsInEveryPartOfAMessage)
+{
+    sNestedPanel panel;
+    panel.m_view.ResizeInspector(300, 50);
+    panel.m_view.SetPreviewMessage("Nothing selected", Qt::red);
+    ExpectSameInEveryPart(panel.m_view);
+}
+
+TEST(QtInspectorViewRepainting, GivesTheSamePixelsInEveryPartOfEmptyGroups)
+{
+    sPaintedPanel panel;
+    panel.m_view.AddGroup("Empty", nullptr);
+    panel.m_view.AddGroup("", nullptr);
+    panel.AddRow("Size");
+    panel.m_view.ResizeInspector(300, 60);
+    ExpectSameInEveryPart(panel.m_view);
+}
+
+TEST(QtInspectorViewRepainting, GivesTheSamePixelsInEveryPartFromRightToLeft)
+{
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    {
+        sNestedPanel panel;
+        panel.m_view.ResizeInspector(300, 150);
+        ExpectSameInEveryPart(panel.m_view);
+    }
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
+TEST(QtInspectorViewRepainting, GivesTheSamePixelsInEveryPartOfGlyphsThatStandOut)
+{
+    for (const char* family : {"DejaVu Sans", "DejaVu Serif"})
+    {
+        SCOPED_TRACE(family);
+        sPaintedPanel panel;
+        QFont font(QString::fromLatin1(family));
+        font.setPixelSize(60);
+        font.setItalic(true);
+        font.setBold(true);
+        panel.m_view.setFont(font);
+        panel.m_view.SetPreviewMode(false);
+        panel.AddRow("jf", 100);
+        panel.AddRow("\xC5/\\f", 71);
+        auto* group = panel.m_view.AddGroup("fj", nullptr);
+        panel.AddRow("f", 100, group);
+        panel.m_view.ResizeInspector(170, 300);
+        ExpectSameInEveryPart(panel.m_view);
+    }
+}
+
+TEST(QtInspectorViewRepainting, GivesTheSamePixelsInEveryPartOfStackedMarks)
+{
+    CQTTextEncoding::SetEncoding(CQTTextEncoding::eTextEncodingUtf8);
+    sPaintedPanel panel;
+    panel.AddRow("", 60);
+    panel.AddRow("A\xCC\x82\xCC\x81\xCC\x83\xCC\xA3\xCC\xB1", 20);
+    panel.AddRow("", 60);
+    panel.m_view.ResizeInspector(60, 180);
+    ExpectSameInEveryPart(panel.m_view);
+    CQTTextEncoding::SetEncoding(CQTTextEncoding::eTextEncodingLatin1);
+}
+
+TEST(QtInspectorViewRepainting, GivesTheSamePixelsInEveryPartForWrongLabelWidths)
+{
+    for (const int width : {-1000, -50, -1, 0, 1, 7})
+    {
+        sTestPanel other;
+        CNarrowView view;
+        view.SetController(&other.m_controller);
+        view.m_iLabelWidth = width;
+        auto* group = view.AddGroup("General", nullptr);
+        for (const char* label : {"Radius", "Size", "Threshold"})
+            view.AddElement(nullptr, new CTestControl(other.m_log, label), label, nullptr,
+                            label[0] == 'R' ? nullptr : group);
+        view.ResizeInspector(200, 110);
+        ExpectSameInEveryPart(view);
+    }
+}
+
+TEST(QtInspectorViewRepainting, GivesTheSamePixelsInARegionOfSeveralParts)
+{
+    sNestedPanel panel;
+    panel.m_view.ResizeInspector(300, 150);
+    const QImage whole = images::Render(panel.m_view);
+    const QRegion region = QRegion(3, 3, 40, 11) + QRegion(200, 60, 90, 50) + QRegion(9, 120, 7, 9);
+    const QImage picture = images::Render(panel.m_view, 1, region);
+    for (int y = 0; y < whole.height(); ++y)
+    {
+        for (int x = 0; x < whole.width(); ++x)
+        {
+            if (region.contains(QPoint(x, y)))
+            {
+                ASSERT_EQ(picture.pixel(x, y), whole.pixel(x, y)) << x << "," << y;
+            }
+        }
+    }
+}
+
+TEST(QtInspectorViewRepainting, DeliversTheNoticesOfTheControllerFirst)
+{
+    sNestedPanel panel;
+    panel.m_view.ResizeInspector(300, 150);
+    const QImage before = images::Render(panel.m_view);
+    panel.m_controller.DirtifyController(new CRecordingNotice(panel.m_log, "notice"));
+    panel.m_controller.m_fnHandleControllerDirt = [&](auto&)
+    {
+        EXPECT_FALSE(panel.m_view.paintingActive());
+        panel.m_view.SetPreviewMessage("Nothing selected", Qt::red);
+    };
+    panel.m_log.Clear();
+    const QImage after = images::Render(panel.m_view);
+    EXPECT_EQ(panel.m_log.Take(),
+              (CCalls{"view.paintEvent()", "view.OnPreDraw()",
+                      "controller.HandleControllerDirt(notice)", "notice.~()", "view.painted()"}));
+    images::ExpectSame(after,
+                       images::Paint(panel.m_view,
+                                     [](QPainter& painter)
+                                     {
+                                         painter.setPen(QPen(Qt::red));
+                                         painter.drawText(QRect(0, 0, 300, 150), 129,
+                                                          QStringLiteral("Nothing selected"));
+                                     }));
+    EXPECT_GT(images::CountDifferent(before, after), 100);
+}
+
+TEST(QtInspectorViewRepainting, ShowsInTheSameFrameWhatANoticeOfARowDid)
+{
+    sPaintedPanel panel;
+    auto* control = new CTestControl(panel.m_log, "Size", -1);
+    auto* element = new CSimpleDataElement;
+    panel.m_controller.AddItem(element, control, nullptr);
+    panel.m_view.AddElement(element, control, "Size", nullptr, nullptr);
+    panel.m_view.ResizeInspector(300, 100);
+    panel.m_controller.DirtifyItem(panel.m_controller.RecordAt(0),
+                                   new CRecordingNotice(panel.m_log, "notice"));
+    panel.m_controller.m_fnHandleDirtyItem = [&](auto*, auto*)
+    {
+        panel.AddRow("Radius");
+        panel.m_view.RecomputeLayout();
+    };
+    panel.Expect(
+        [&](CPanelPainter& painter)
+        {
+            painter.Text("Size", 5, 5, panel.LabelWidth("Radius"), 20);
+            painter.Text("Radius", 5, 30, panel.LabelWidth("Radius"), 20);
+        });
+    EXPECT_EQ(panel.m_log.Containing("HandleDirtyItem").size(), 1U);
+}
+
+TEST(QtInspectorViewRepainting, AsksForNoticesWhateverItPaints)
+{
+    sNestedPanel panel;
+    panel.m_view.ResizeInspector(300, 150);
+    panel.m_view.ShowContent(false, false);
+    panel.m_log.Clear();
+    images::Render(panel.m_view, 1, QRegion(0, 0, 1, 1));
+    panel.m_view.SetPreviewMessage("message", Qt::red);
+    images::Render(panel.m_view, 1, QRegion(0, 0, 1, 1));
+    EXPECT_EQ(panel.m_log.Count("OnPreDraw"), 2U);
+}
+
+TEST(QtInspectorViewRepainting, SurvivesAHandlerThatClearsThePanel)
+{
+    sPaintedPanel panel;
+    auto* control = new CTestControl(panel.m_log, "Size", -1);
+    auto* element = new CSimpleDataElement;
+    panel.m_controller.AddItem(element, control, nullptr);
+    panel.m_view.AddElement(element, control, "Size", nullptr, nullptr);
+    panel.m_view.ResizeInspector(300, 100);
+    panel.m_controller.DirtifyController(new CRecordingNotice(panel.m_log, "notice"));
+    panel.m_controller.m_fnHandleControllerDirt = [&](auto&) { panel.m_controller.ClearAllData(); };
+    panel.Expect([](CPanelPainter&) {});
+}
+
+TEST(QtInspectorViewRepainting, ChangesNothing)
+{
+    sNestedPanel panel;
+    panel.m_view.ResizeInspector(300, 90);
+    panel.m_view.m_pScrollBar->setValue(30);
+    panel.m_log.Clear();
+    images::Render(panel.m_view);
+    EXPECT_EQ(panel.m_log.Take(),
+              (CCalls{"view.paintEvent()", "view.OnPreDraw()", "view.painted()"}));
+    EXPECT_EQ(panel.m_view.m_iOffsetY, 30);
+    EXPECT_EQ(panel.m_view.m_pScrollBar->value(), 30);
+}
