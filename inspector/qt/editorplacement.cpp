@@ -39,8 +39,9 @@ void CEditorPlacement::Show(QWidget& owner, const QRect& rect)
         return;
     }
     m_rEditor.setAttribute(Qt::WA_NoMousePropagation, false);
-    m_rEditor.setGeometry(rect);
     m_rEditor.setWindowFlags(Qt::ToolTip);
+    // After the flags, a change of which moves a window on platforms that count in its frame.
+    m_rEditor.setGeometry(rect);
     m_rEditor.show();
     m_rEditor.activateWindow();
 }

@@ -144,6 +144,12 @@ bool CInPlaceEdit::event(QEvent* event)
     case QEvent::FocusOut:
         return LoseFocus(*static_cast<QFocusEvent*>(event));
     case QEvent::InputMethod:
+        // The line edit would take the text of an input method even while it is read-only.
+        if (isReadOnly())
+        {
+            event->ignore();
+            return true;
+        }
         m_sComposition = static_cast<QInputMethodEvent*>(event)->preeditString();
         break;
     default:
