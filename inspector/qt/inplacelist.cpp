@@ -73,17 +73,25 @@ void CInPlaceList::Start(QWidget& owner, const QRect& area, const char* value)
     ++m_uiChoice;
     m_sCurrent = ToQString(value);
     m_sStart = m_sCurrent;
-    for (int row = 0; row < count(); ++row)
-    {
-        if (item(row)->data(Qt::UserRole).toString() == m_sCurrent)
-        {
-            setCurrentRow(row, QItemSelectionModel::SelectCurrent);
-            break;
-        }
-    }
+    SelectRowOf(m_sCurrent);
     m_Placement.Show(owner, CEditorPlacement::ListRect(owner, area, WantedHeight()));
     m_bOpen = true;
     setFocus(Qt::OtherFocusReason);
+}
+
+void CInPlaceList::SelectRowOf(const QString& value)
+{
+    // Also said when there is no such row: the list would else choose its first one when it gets
+    // the focus.
+    setCurrentIndex(QModelIndex());
+    for (int row = 0; row < count(); ++row)
+    {
+        if (item(row)->data(Qt::UserRole).toString() == value)
+        {
+            setCurrentRow(row, QItemSelectionModel::SelectCurrent);
+            return;
+        }
+    }
 }
 
 int CInPlaceList::WantedHeight() const

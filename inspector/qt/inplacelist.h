@@ -48,6 +48,7 @@ private Q_SLOTS:
 private:
     static void Dispose(CInPlaceList* list);
     bool CancelWith(CInspectorDataElement::eEndEditCause cause);
+    void SelectRowOf(const QString& value);
     int WantedHeight() const;
 
     QString m_sStart;
