@@ -17,6 +17,9 @@ else()
     set(INSPECTOR_LIBRARY_TYPE SHARED)
 endif()
 
+# The name that hosts find the library by.
+set(INSPECTOR_PACKAGE inspector${INSPECTOR_SUFFIX})
+
 set(INSPECTOR_GENERATED_HEADER ${PROJECT_BINARY_DIR}/include/inspectorversion.h)
 configure_file(${PROJECT_SOURCE_DIR}/cmake/inspectorversion.h.in ${INSPECTOR_GENERATED_HEADER}
     @ONLY)

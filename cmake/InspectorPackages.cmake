@@ -1,0 +1,72 @@
+# Debian packages: `cpack -G DEB` gives a run-time and a development package. A build with a suffix
+# ("-qt5") gives packages of other names, which can be installed beside those without one.
+if(INSPECTOR_SUFFIX)
+    set(INSPECTOR_RUNTIME_PACKAGE libinspector${INSPECTOR_SUFFIX}-${PROJECT_VERSION_MAJOR})
+else()
+    set(INSPECTOR_RUNTIME_PACKAGE libinspector${PROJECT_VERSION_MAJOR})
+endif()
+set(INSPECTOR_DEV_PACKAGE libinspector${INSPECTOR_SUFFIX}-dev)
+if(INSPECTOR_QT EQUAL 5)
+    set(INSPECTOR_QT_DEV_PACKAGE qtbase5-dev)
+else()
+    set(INSPECTOR_QT_DEV_PACKAGE qt6-base-dev)
+endif()
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME inspector${INSPECTOR_SUFFIX})
+set(CPACK_PACKAGE_VENDOR "Inspector developers")
+set(CPACK_PACKAGE_CONTACT "Inspector developers <inspector@example.org>" CACHE STRING
+    "Maintainer that packages name: a name and an address")
+set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "property inspector for Qt ${INSPECTOR_QT}")
+set(CPACK_STRIP_FILES ON)
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+set(CPACK_COMPONENTS_ALL runtime dev)
+set(CPACK_COMPONENTS_GROUPING IGNORE)
+
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${INSPECTOR_RUNTIME_PACKAGE})
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
+set(CPACK_COMPONENT_RUNTIME_DESCRIPTION
+    "A vertical, scrollable panel of labelled controls that shows and
+edits the parameters of an object. This package holds the shared library.")
+set(CPACK_DEBIAN_DEV_PACKAGE_NAME ${INSPECTOR_DEV_PACKAGE})
+set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS
+    "${INSPECTOR_RUNTIME_PACKAGE} (= ${PROJECT_VERSION}), ${INSPECTOR_QT_DEV_PACKAGE}")
+set(CPACK_COMPONENT_DEV_DESCRIPTION
+    "A vertical, scrollable panel of labelled controls that shows and
+edits the parameters of an object. This package holds the headers and
+the files for CMake and pkg-config.")
+
+# The files that every Debian package carries, and the notice to the linker's cache.
+string(TIMESTAMP INSPECTOR_PACKAGE_DATE "%a, %d %b %Y %H:%M:%S +0000" UTC)
+find_program(INSPECTOR_GZIP gzip)
+mark_as_advanced(INSPECTOR_GZIP)
+foreach(component IN ITEMS RUNTIME DEV)
+    set(package ${INSPECTOR_${component}_PACKAGE})
+    string(TOLOWER ${component} lower)
+    set(folder ${PROJECT_BINARY_DIR}/packages/${package})
+    set(files ${folder}/copyright)
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/debian/copyright.in ${folder}/copyright @ONLY)
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/debian/changelog.in ${folder}/changelog @ONLY)
+    if(INSPECTOR_GZIP)
+        execute_process(COMMAND ${INSPECTOR_GZIP} -9nkf ${folder}/changelog
+            COMMAND_ERROR_IS_FATAL ANY)
+        list(APPEND files ${folder}/changelog.gz)
+    endif()
+    install(FILES ${files}
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${package} COMPONENT ${lower} EXCLUDE_FROM_ALL)
+endforeach()
+configure_file(${PROJECT_SOURCE_DIR}/cmake/debian/triggers ${PROJECT_BINARY_DIR}/packages/triggers
+    COPYONLY)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${PROJECT_BINARY_DIR}/packages/triggers)
+
+include(CPack)

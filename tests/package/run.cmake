@@ -1,0 +1,87 @@
+# Builds one consumer outside the source tree and runs it.
+#
+# Variables: kind (find_package, pkg_config, add_subdirectory or getting_started), sources (the root of the project),
+# build (its build folder), work (a folder of the test), package, version, qt, compiler, build_type,
+# shared.
+#
+# The library is installed into one folder and moved to another before it is used, so that a path
+# that was written down anywhere is a wrong one.
+
+function(run)
+    execute_process(COMMAND ${ARGN} COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+
+# A folder with nothing of the source tree above it.
+string(MD5 id "${work}-${kind}")
+set(temporary "$ENV{TMPDIR}")
+if(NOT temporary)
+    set(temporary /tmp)
+endif()
+set(place "${temporary}/package-${id}")
+file(REMOVE_RECURSE "${place}")
+file(MAKE_DIRECTORY "${place}")
+file(COPY "${sources}/tests/package/host" "${sources}/tests/package/${kind}"
+    DESTINATION "${place}/consumer")
+
+set(ENV{QT_QPA_PLATFORM} offscreen)
+unset(ENV{DESTDIR})
+set(common
+    -G Ninja
+    -DCMAKE_CXX_COMPILER=${compiler}
+    -DCMAKE_BUILD_TYPE=${build_type}
+    -DHOST_PACKAGE=${package}
+    -DHOST_EXPECTED_VERSION=${version})
+
+if(kind STREQUAL "add_subdirectory")
+    # From a copy of the sources, as a host has them in its own tree.
+    file(COPY "${sources}/CMakeLists.txt" "${sources}/cmake" "${sources}/include"
+        "${sources}/inspector" DESTINATION "${place}/library")
+    run(${CMAKE_COMMAND} -S ${place}/consumer/add_subdirectory -B ${place}/build ${common}
+        -DHOST_LIBRARY_SOURCES=${place}/library
+        -DHOST_HEADERS=${place}/library/include
+        -DINSPECTOR_QT=${qt}
+        -DBUILD_SHARED_LIBS=${shared})
+    run(${CMAKE_COMMAND} --build ${place}/build)
+    run(${place}/build/host/host)
+else()
+    run(${CMAKE_COMMAND} --install ${build} --prefix ${place}/first)
+    file(RENAME "${place}/first" "${place}/moved")
+    # A debug build keeps its paths, for the debugger.
+    set(searched)
+    if(build_type STREQUAL "Debug")
+        set(searched --include=*.h --include=*.cmake --include=*.pc)
+    endif()
+    foreach(forbidden IN ITEMS "${sources}" "${build}" "${place}/first")
+        execute_process(COMMAND grep -rlF ${searched} ${forbidden} ${place}/moved
+            OUTPUT_VARIABLE found RESULT_VARIABLE status)
+        if(NOT status EQUAL 1)
+            message(FATAL_ERROR "installed files name ${forbidden}:\n${found}")
+        endif()
+    endforeach()
+    file(GLOB_RECURSE libraries "${place}/moved/lib*/lib${package}.*")
+    list(GET libraries 0 library)
+    get_filename_component(folder "${library}" DIRECTORY)
+
+    if(kind STREQUAL "getting_started")
+        # The project of the guide, as the guide has it.
+        set(project ${place}/consumer/getting_started)
+        configure_file(${sources}/examples/01-three-rows.cpp ${project}/main.cpp COPYONLY)
+        run(${CMAKE_COMMAND} -S ${project} -B ${place}/build -G Ninja
+            -DCMAKE_CXX_COMPILER=${compiler} -DCMAKE_PREFIX_PATH=${place}/moved)
+        run(${CMAKE_COMMAND} --build ${place}/build)
+        run(${place}/build/circle --once)
+    elseif(kind STREQUAL "find_package")
+        run(${CMAKE_COMMAND} -S ${place}/consumer/find_package -B ${place}/build ${common}
+            -DCMAKE_PREFIX_PATH=${place}/moved
+            -DHOST_HEADERS=${place}/moved/include/${package})
+        run(${CMAKE_COMMAND} --build ${place}/build)
+        run(${place}/build/host/host)
+    else()
+        set(ENV{PKG_CONFIG_PATH} ${folder}/pkgconfig)
+        set(ENV{LD_LIBRARY_PATH} ${folder})
+        run(${place}/consumer/pkg_config/build.sh ${compiler} ${package} ${version} ${qt}
+            ${place}/host)
+        run(${place}/host)
+    endif()
+endif()
+file(REMOVE_RECURSE "${place}")
