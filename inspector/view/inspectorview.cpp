@@ -19,7 +19,7 @@ void FreeRequest(CInspectorView::sRequestSize* request)
         return;
     // The record has a table of operations but no virtual destructor, and a host may have stored a
     // larger record of its own: the memory is given back without naming a size.
-    request->~sRequestSize();
+    request->CInspectorView::sRequestSize::~sRequestSize();
     ::operator delete(request);
 }
 
