@@ -1,19 +1,26 @@
-# Debian packages: `cpack -G DEB` gives a run-time and a development package. A build with a suffix
-# ("-qt5") gives packages of other names, which can be installed beside those without one.
-if(INSPECTOR_SUFFIX)
-    set(INSPECTOR_RUNTIME_PACKAGE libinspector${INSPECTOR_SUFFIX}-${PROJECT_VERSION_MAJOR})
-else()
-    set(INSPECTOR_RUNTIME_PACKAGE libinspector${PROJECT_VERSION_MAJOR})
-endif()
-set(INSPECTOR_DEV_PACKAGE libinspector${INSPECTOR_SUFFIX}-dev)
+# Debian packages: `cpack -G DEB` gives a run-time and a development package. Those for Qt 5 have names
+# of their own. With a suffix ("-qt5") their files have other names as well, and both can be installed;
+# without one they stand in each other's way, and say so.
+set(INSPECTOR_PACKAGE_SUFFIX "${INSPECTOR_SUFFIX}")
 if(INSPECTOR_QT EQUAL 5)
     set(INSPECTOR_QT_DEV_PACKAGE qtbase5-dev)
+    if(NOT INSPECTOR_SUFFIX)
+        set(INSPECTOR_PACKAGE_SUFFIX -qt5)
+        set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONFLICTS libinspector${PROJECT_VERSION_MAJOR})
+        set(CPACK_DEBIAN_DEV_PACKAGE_CONFLICTS libinspector-dev)
+    endif()
 else()
     set(INSPECTOR_QT_DEV_PACKAGE qt6-base-dev)
 endif()
+if(INSPECTOR_PACKAGE_SUFFIX)
+    set(INSPECTOR_RUNTIME_PACKAGE libinspector${INSPECTOR_PACKAGE_SUFFIX}-${PROJECT_VERSION_MAJOR})
+else()
+    set(INSPECTOR_RUNTIME_PACKAGE libinspector${PROJECT_VERSION_MAJOR})
+endif()
+set(INSPECTOR_DEV_PACKAGE libinspector${INSPECTOR_PACKAGE_SUFFIX}-dev)
 
 set(CPACK_GENERATOR DEB)
-set(CPACK_PACKAGE_NAME inspector${INSPECTOR_SUFFIX})
+set(CPACK_PACKAGE_NAME inspector${INSPECTOR_PACKAGE_SUFFIX})
 set(CPACK_PACKAGE_VENDOR "Inspector developers")
 set(CPACK_PACKAGE_CONTACT "Inspector developers <inspector@example.org>" CACHE STRING
     "Maintainer that packages name: a name and an address")

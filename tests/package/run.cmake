@@ -1,8 +1,8 @@
 # Builds one consumer outside the source tree and runs it.
 #
-# Variables: kind (find_package, pkg_config, add_subdirectory or getting_started), sources (the root of the project),
-# build (its build folder), work (a folder of the test), package, version, qt, compiler, build_type,
-# shared.
+# Variables: kind (find_package, pkg_config, add_subdirectory, getting_started or deb), sources (the
+# root of the project), build (its build folder), work (a folder of the test), package, version, qt,
+# compiler, build_type, shared.
 #
 # The library is installed into one folder and moved to another before it is used, so that a path
 # that was written down anywhere is a wrong one.
@@ -20,7 +20,11 @@ endif()
 set(place "${temporary}/package-${id}")
 file(REMOVE_RECURSE "${place}")
 file(MAKE_DIRECTORY "${place}")
-file(COPY "${sources}/tests/package/host" "${sources}/tests/package/${kind}"
+set(consumer ${kind})
+if(kind STREQUAL "deb")
+    set(consumer find_package)
+endif()
+file(COPY "${sources}/tests/package/host" "${sources}/tests/package/${consumer}"
     DESTINATION "${place}/consumer")
 
 set(ENV{QT_QPA_PLATFORM} offscreen)
@@ -44,8 +48,22 @@ if(kind STREQUAL "add_subdirectory")
     run(${CMAKE_COMMAND} --build ${place}/build)
     run(${place}/build/host/host)
 else()
-    run(${CMAKE_COMMAND} --install ${build} --prefix ${place}/first)
-    file(RENAME "${place}/first" "${place}/moved")
+    if(kind STREQUAL "deb")
+        run(${CMAKE_CPACK_COMMAND} -G DEB --config ${build}/CPackConfig.cmake -B ${place}/deb)
+        file(GLOB packages "${place}/deb/*.deb")
+        list(LENGTH packages count)
+        if(NOT count EQUAL 2)
+            message(FATAL_ERROR "not one run-time and one development package: ${packages}")
+        endif()
+        foreach(deb IN LISTS packages)
+            run(dpkg-deb --info ${deb})
+            run(dpkg-deb --extract ${deb} ${place}/root)
+        endforeach()
+        file(RENAME "${place}/root/usr" "${place}/moved")
+    else()
+        run(${CMAKE_COMMAND} --install ${build} --prefix ${place}/first)
+        file(RENAME "${place}/first" "${place}/moved")
+    endif()
     # A debug build keeps its paths, for the debugger.
     set(searched)
     if(build_type STREQUAL "Debug")
@@ -70,7 +88,7 @@ else()
             -DCMAKE_CXX_COMPILER=${compiler} -DCMAKE_PREFIX_PATH=${place}/moved)
         run(${CMAKE_COMMAND} --build ${place}/build)
         run(${place}/build/circle --once)
-    elseif(kind STREQUAL "find_package")
+    elseif(consumer STREQUAL "find_package")
         run(${CMAKE_COMMAND} -S ${place}/consumer/find_package -B ${place}/build ${common}
             -DCMAKE_PREFIX_PATH=${place}/moved
             -DHOST_HEADERS=${place}/moved/include/${package})
