@@ -1,0 +1,66 @@
+#pragma once
+
+#include "../graphdocument.h"
+
+#include <inspectorcontroller.h>
+
+#include <QPointer>
+#include <QWidget>
+
+#include <functional>
+
+class CStaticDataElement;
+
+/// The controller of the panel: holds the rows of one operation, and brings them up to date when
+/// the operation was changed by something else.
+class CPanelController : public CInspectorController
+{
+public:
+    explicit CPanelController(CGraphDocument& document);
+
+    CGraphDocument& GetDocument() { return m_document; }
+    sGraphItem* GetItem() const { return m_pItem; }
+
+    /// Shows an operation, or nothing when \p item is null.
+    void SetItem(sGraphItem* item);
+    /// The message of the row that says what became of a value; the row of the panel shows it.
+    void SetNoteElement(CStaticDataElement* element) { m_pNote = element; }
+    /// Where such messages go beside the panel.
+    void SetMessageSink(std::function<void(const std::string&)> sink);
+    void SetDialogParent(QWidget* parent) { m_pDialogParent = parent; }
+
+    /// Commands of the panel's buttons.
+    static constexpr const char* g_sReset = "reset";
+    static constexpr const char* g_sBrowse = "browse"; ///< the value is the property's number
+    void CallCommand(const char* command, unsigned long value) override;
+
+    /// Called by the elements.
+    void OnValueWritten(CInspectorDataElement* element, const sImageProperty& property,
+                        const sWriteResult& result);
+    void PickColor(sGraphItem* item, const sImageProperty& property,
+                   const CImageOperation::CColor& current);
+
+    void BuildInspector() override;
+    /// Marks everything as out of date; the rows are read again before they are painted next.
+    void RefreshInspector() override;
+    void HandleDirtyItem(sInspectorControllerData* record, IDirtyControllerDataInfo* info) override;
+    void HandleControllerDirt(std::vector<IDirtyControllerDataInfo*>& dirt) override;
+
+private:
+    void DirtifyRowsOf(const sImageProperty& property);
+    void ShowNote(const std::string& text);
+    void Browse(const sImageProperty& property);
+
+    CGraphDocument& m_document;
+    sGraphItem* m_pItem = nullptr;
+    CStaticDataElement* m_pNote = nullptr;
+    std::function<void(const std::string&)> m_sink;
+    QPointer<QWidget> m_pDialogParent;
+};
+
+/// The payload of a row: which property it shows.
+struct sRowPayload : public CInspectorController::IControllerData
+{
+    explicit sRowPayload(const sImageProperty* property) : m_pProperty(property) {}
+    const sImageProperty* m_pProperty;
+};

@@ -1,0 +1,15 @@
+// What the image library and what it builds on keep until the process ends, by name; a leak of the
+// program itself is none of them. Only a leak sanitizer asks for this list. It says the same as
+// lsan.supp beside it, for programs that are started without that file.
+extern "C" __attribute__((visibility("default"), used)) const char* __lsan_default_suppressions();
+
+const char* __lsan_default_suppressions()
+{
+    return "leak:libgegl-0.4\n"
+           "leak:libgobject-2.0\n"
+           "leak:libglib-2.0\n"
+           "leak:libbabl-0.1\n"
+           "leak:libfontconfig\n"
+           "leak:libpango\n"
+           "leak:libcairo\n";
+}
