@@ -226,15 +226,15 @@ TEST_F(CDocumentTest, SaysWhyAFileCannotBeOpenedAndKeepsTheOpenGraph)
         {"\xff\xfe\x01", "line 1"},
     };
     sGraphItem* board = Add("gegl:checkerboard");
+    QObject::connect(&m_document, &CGraphDocument::ChainChanged, &m_document,
+                     [] { ADD_FAILURE() << "the graph was touched"; });
     for (const sCase& bad : cases)
     {
-        const QSignalSpy changes(&m_document, &CGraphDocument::ChainChanged);
         const QString path = WriteFile(bad.m_sText);
         EXPECT_FALSE(m_document.Load(path, m_sMessage)) << bad.m_sText;
         EXPECT_TRUE(m_sMessage.contains(QString::fromUtf8(bad.m_sReason)))
             << bad.m_sText << ": " << m_sMessage.toStdString();
         EXPECT_TRUE(m_sMessage.contains(path));
-        EXPECT_EQ(changes.count(), 0);
         EXPECT_TRUE(m_document.Contains(board));
         EXPECT_EQ(m_document.GetPath(), QString());
     }
