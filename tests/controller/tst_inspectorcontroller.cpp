@@ -200,3 +200,21 @@ TEST(Controller, DoesNotAnswerFromTheRowsItHadBeforeBeingAssigned)
     host.m_pController->RemoveItem(old.m_pElement);
     EXPECT_EQ(host.m_log.Take(), CRecordingHost::End("old"));
 }
+
+TEST(Controller, AnswersFromAsManyOtherRowsOnceItIsAssigned)
+{
+    CRecordingHost host;
+    CRecordingHost other;
+    const auto old = host.RegisterRow("old");
+    const auto made = other.RegisterRow("made");
+    *host.m_pController = *other.m_pController;
+    other.m_pController->m_lItems.clear();
+    host.m_log.Clear();
+    other.m_log.Clear();
+    host.m_pController->RemoveItem(old.m_pElement);
+    EXPECT_EQ(host.m_log.Take(), CCalls{});
+    EXPECT_EQ(host.m_pController->m_lItems.size(), 1u);
+    host.m_pController->RemoveItem(made.m_pElement);
+    EXPECT_EQ(other.m_log.Take(), CRecordingHost::End("made"));
+    delete old.m_pRecord;
+}

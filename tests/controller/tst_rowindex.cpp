@@ -94,6 +94,22 @@ TEST(RowIndex, DoesNotKeepARowWhoseElementWasTakenOut)
     EXPECT_EQ(host.m_log.Take(), (CCalls{"a.element.Disconnect()", "a.element.~()", "other.~()"}));
 }
 
+TEST(RowIndex, FollowsRowsWhoseElementsAreSwapped)
+{
+    CRecordingHost host;
+    const CRow a = host.RegisterRow("a");
+    const CRow b = host.RegisterRow("b");
+    std::swap(a.m_pRecord->m_pElement, b.m_pRecord->m_pElement);
+    host.m_log.Clear();
+    host.m_pController->RemoveItem(b.m_pElement);
+    EXPECT_EQ(host.m_log.Take(),
+              (CCalls{"b.element.Disconnect()", "a.data.~()", "b.element.~()", "a.widget.~()"}));
+    host.m_pController->RemoveItem(a.m_pElement);
+    EXPECT_EQ(host.m_log.Take(),
+              (CCalls{"a.element.Disconnect()", "b.data.~()", "a.element.~()", "b.widget.~()"}));
+    EXPECT_TRUE(host.m_pController->m_lItems.empty());
+}
+
 TEST(RowIndex, FollowsAListThatAHostFillsItself)
 {
     CRecordingHost host;

@@ -106,6 +106,9 @@ TEST_F(DataElement, StartsFromTheWidgetItIsGivenAndNotFromItsOwn)
     m_apElement[0]->OnEndEditing(m_apWidget[1], CInspectorDataElement::eEndEditNext);
     EXPECT_EQ(m_log.Take(), (CCalls{"element0.OnEndEditing(2)", "view.EnsureVisible(widget2)",
                                     "widget2.StartEditing()"}));
+    m_apElement[0]->OnEndEditing(m_apWidget[2], CInspectorDataElement::eEndEditPrevious);
+    EXPECT_EQ(m_log.Take(), (CCalls{"element0.OnEndEditing(3)", "view.EnsureVisible(widget1)",
+                                    "widget1.StartEditing()"}));
 }
 
 TEST_F(DataElement, LeavesTheFocusAloneForEveryOtherCause)

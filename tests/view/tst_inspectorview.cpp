@@ -164,6 +164,22 @@ TEST(Tree, TakesControlsIntoContainersWithoutNodesOfTheirOwn)
     EXPECT_EQ(panel.m_view.m_setHolders, (std::set<CHolder*>{first, second, container->m_pHolder}));
 }
 
+TEST(Tree, TakesARowForAContainerAllTheSame)
+{
+    // A caller error, but a defined one.
+    CLayoutPanel panel;
+    CHolder* row = panel.AddControl("row", 10);
+    CHolder* inside = panel.AddControl("inside", 10, &panel.Node());
+    EXPECT_EQ(panel.m_view.m_lElements.size(), 1u);
+    EXPECT_TRUE(panel.Node().m_lChildren.empty());
+    EXPECT_EQ(row->m_lChildren, std::list<CHolder*>{inside});
+    EXPECT_EQ(row->m_iKind, CInspectorView::eHolderControl);
+    EXPECT_EQ(panel.m_view.m_setControlHolders, (std::set<CHolder*>{row, inside}));
+    panel.m_view.ResizeInspector(100, 100);
+    EXPECT_EQ(RectOf(*row), (sRect{5, 5, 90, 20}));
+    EXPECT_EQ(RectOf(*inside), (sRect{0, 0, 0, 0}));
+}
+
 TEST(Tree, IsCompleteWhenTheToolkitIsAskedToTakeTheWidget)
 {
     CCallLog log;
