@@ -166,12 +166,11 @@ private:
     class CLifeGuard;
     class CDelivery;
     class CWalk;
+    class CFocusTarget;
 
     void IndexRow(CRows::iterator row);
     CRows::iterator FindRow(const CInspectorDataElement* element);
     void UnlinkRow(CRows::iterator row);
-    /// Whether the widget of some row is (still) this one: a walk over the rows.
-    bool IsRegistered(const CInspectorDataWidget* widget) const;
     void StartEditingAt(std::size_t stop);
     /// Returns false when the controller did not survive it.
     bool DeliverRow(CDelivery& delivery, sInspectorControllerData* record,
@@ -186,9 +185,7 @@ private:
     std::size_t m_ulIndexed = 0;
     /// Views whose controller this is, to be told when it dies.
     std::vector<CInspectorView*> m_vReferrers;
-    /// Grow with every removed row and every clearing, so that an operation sees after a call to
-    /// the host that what it held may be gone.
-    unsigned long m_ulRemovals = 0;
+    /// Grows with every clearing, so that an outer one sees that it was overtaken.
     unsigned long m_ulClearings = 0;
     /// True while the host may not come back into the registry.
     bool m_bClosed = false;
@@ -197,4 +194,5 @@ private:
     CLifeGuard* m_pLifeGuards = nullptr;
     CDelivery* m_pDelivery = nullptr;
     CWalk* m_pWalks = nullptr;
+    CFocusTarget* m_pFocusTargets = nullptr;
 };

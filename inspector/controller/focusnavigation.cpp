@@ -3,7 +3,7 @@
 #include <inspectordatawidget.h>
 #include <inspectorview.h>
 
-#include "lifeguard.h"
+#include "focustarget.h"
 
 #include <cassert>
 
@@ -36,11 +36,9 @@ void CInspectorController::StartEditingAt(std::size_t place)
         place < stops.size() && stops[place] ? stops[place]->GetWidget() : nullptr;
     if (!widget)
         return;
-    const CLifeGuard life(*this);
-    const unsigned long removals = m_ulRemovals;
+    const CFocusTarget target(*this, widget);
     m_pView->EnsureVisible(widget);
     // The view may belong to a host that rebuilds the panel while it scrolls.
-    if (!life.IsAlive() || !m_pView || (removals != m_ulRemovals && !IsRegistered(widget)))
-        return;
-    widget->StartEditing();
+    if (target.GetWidget() && m_pView)
+        widget->StartEditing();
 }

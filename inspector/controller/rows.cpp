@@ -3,6 +3,7 @@
 #include <inspectordataelement.h>
 #include <inspectordatawidget.h>
 
+#include "focustarget.h"
 #include "walk.h"
 
 #include <algorithm>
@@ -64,7 +65,7 @@ CInspectorController::FindRow(const CInspectorDataElement* element)
 
 void CInspectorController::UnlinkRow(CRows::iterator row)
 {
-    ++m_ulRemovals;
+    CFocusTarget::Forget(m_pFocusTargets, (*row)->m_pWidget);
     const CInspectorDataElement* element = (*row)->m_pElement;
     const bool hasTwins = m_mapRows.size() != m_ulIndexed;
     const auto entry = m_mapRows.find(element);
@@ -90,15 +91,9 @@ void CInspectorController::UnlinkRow(CRows::iterator row)
         m_mapRows.emplace(element, twin);
 }
 
-bool CInspectorController::IsRegistered(const CInspectorDataWidget* widget) const
-{
-    return std::any_of(m_lItems.begin(), m_lItems.end(),
-                       [widget](const sInspectorControllerData* record)
-                       { return record->m_pWidget == widget; });
-}
-
 void CInspectorController::ForgetWidget(CInspectorDataWidget* widget)
 {
+    CFocusTarget::Forget(m_pFocusTargets, widget);
     auto row = FindRow(widget->m_pElement);
     if (row == m_lItems.end() || (*row)->m_pWidget != widget)
         row = std::find_if(m_lItems.begin(), m_lItems.end(),
