@@ -160,6 +160,8 @@ int CQTInspectorView::GetElementLabelWidth(sInspectorElement* element)
 {
     if (element->m_sName.empty())
         return 0;
+    // A style sheet has its say about the font before the view is first shown.
+    ensurePolished();
     const int encoding = CQTTextEncoding::GetEncoding();
     if (m_bPreviewLabels != m_bPreview || m_iLabelEncoding != encoding || m_fontLabels != font())
     {

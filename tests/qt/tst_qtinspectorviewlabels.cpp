@@ -198,3 +198,13 @@ TEST_F(QtInspectorViewLabels, MakeANewColumnAfterAChangeOfTheFont)
     EXPECT_EQ(control->x(), 5 + Expect(QStringLiteral("Radius")));
     EXPECT_GT(control->x(), before);
 }
+
+TEST_F(QtInspectorViewLabels, AreMeasuredInTheFontOfAStyleSheetBeforeTheyAreShown)
+{
+    m_view.setStyleSheet(QStringLiteral("font-size: 24px"));
+    const CTestControl* control = m_panel.AddRow("Radius");
+    m_view.ResizeInspector(300, 100);
+    m_view.ensurePolished();
+    EXPECT_EQ(m_view.font().pixelSize(), 24);
+    EXPECT_EQ(control->x(), 5 + Expect(QStringLiteral("Radius")));
+}
