@@ -201,6 +201,7 @@ TEST(QtInspectorView, StartsWithAShownContentAndAHiddenScrollBar)
 
     EXPECT_STREQ(view.m_pContent->metaObject()->className(), "QWidget");
     EXPECT_FALSE(view.m_pContent->isHidden());
+    EXPECT_TRUE(view.m_pContent->testAttribute(Qt::WA_WState_ExplicitShowHide));
     EXPECT_TRUE(view.m_pContent->children().isEmpty());
 
     const QScrollBar plain;

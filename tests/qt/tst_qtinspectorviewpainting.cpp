@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace
@@ -389,5 +390,44 @@ TEST(QtInspectorViewPainting, TakesEveryFont)
         panel.m_view.setFont(font);
         panel.m_view.ResizeInspector(300, 150);
         panel.Expect([&](CPanelPainter& painter) { panel.PaintTo(painter); });
+    }
+}
+
+TEST(QtInspectorViewPainting, KeepsControlsAlignedWithFramesAndLabels)
+{
+    sPaintedPanel panel;
+    auto* group = panel.m_view.AddGroup("Group", nullptr);
+    QPalette palette;
+    palette.setColor(QPalette::Window, QColor(30, 90, 150));
+    for (const char* name : {"One", "Two"})
+    {
+        CTestControl* control = panel.AddRow(name, 20, group);
+        control->setPalette(palette);
+        control->setAutoFillBackground(true);
+    }
+    panel.AddRow("", 200);
+    panel.m_view.ResizeInspector(300, 120);
+    panel.m_view.m_pScrollBar->hide();
+    for (const int scroll : {0, 1, 30})
+    {
+        panel.m_view.m_pScrollBar->setValue(scroll);
+        const int label = panel.LabelWidth("One"); // the wider one
+        for (const qreal ratio : {1.0, 1.25, 1.5, 2.0})
+        {
+            SCOPED_TRACE(std::to_string(scroll) + " at " + std::to_string(ratio));
+            const auto paint = [&](QPainter& painter)
+            {
+                CPanelPainter expected(painter, scroll);
+                expected.Group("Group", 5, 5, 270, 74);
+                for (const auto& [name, y] : {std::pair("One", 24), std::pair("Two", 49)})
+                {
+                    expected.Text(name, 10, y, label, 20);
+                    painter.fillRect(QRect(10 + label, y - scroll, 260 - label, 20),
+                                     QColor(30, 90, 150));
+                }
+            };
+            images::ExpectSame(images::Render(panel.m_view, ratio),
+                               images::Paint(panel.m_view, paint, ratio));
+        }
     }
 }
