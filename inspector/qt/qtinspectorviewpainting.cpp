@@ -13,12 +13,11 @@ namespace
 
 constexpr int g_iLabelFlags = Qt::AlignLeft | Qt::AlignVCenter;
 
-/// Whether something drawn in a rectangle may be seen in another. A frame stays in its rectangle
-/// but for the width of its line; nothing is known about a rectangle turned inside out.
+/// Whether something drawn in a rectangle may be seen in another; nothing is known about a
+/// rectangle turned inside out.
 bool MayShow(const QRectF& drawn, const QRect& exposed)
 {
-    return drawn.width() <= 0 || drawn.height() <= 0 ||
-           drawn.adjusted(-2, -2, 2, 2).intersects(exposed);
+    return drawn.width() <= 0 || drawn.height() <= 0 || drawn.intersects(exposed);
 }
 
 } // namespace
@@ -39,7 +38,8 @@ void CQTInspectorView::paintEvent(QPaintEvent* event)
     }
     if (!m_bContentShown)
         return;
-    // Slanted letters and stacked marks stand out of the rectangle that their text is measured by.
+    // Slanted letters and stacked marks stand out of the rectangle that their text is measured by,
+    // and a frame by half of its line.
     const int reach = 2 * painter.fontMetrics().height();
     const QRect exposed = event->rect().adjusted(-reach, -reach, reach, reach);
     // Level by level, so that a frame never runs over what is inside it.
