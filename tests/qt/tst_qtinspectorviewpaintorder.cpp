@@ -92,7 +92,7 @@ TEST(QtInspectorViewPaintOrder, GoesLevelByLevel)
     auto* inner = panel.m_view.AddGroup("", first);
     auto* innermost = panel.m_view.AddGroup("", inner);
     panel.AddRow("", 20, innermost);
-    panel.AddRow("", -66, first); // moves the next group up into this one
+    panel.AddRow("", -50, first); // moves the next group up into this one
     auto* second = panel.m_view.AddGroup("MMMMMM", nullptr);
     auto* last = panel.m_view.AddGroup("WWWWW", second);
     panel.AddRow("", 60, last);
@@ -103,6 +103,8 @@ TEST(QtInspectorViewPaintOrder, GoesLevelByLevel)
                        PaintInOrder(panel.m_view, {first, second, inner, last, innermost}));
     ExpectDifferent(picture, PaintInOrder(panel.m_view, {first, inner, innermost, second, last}));
     ExpectDifferent(picture, PaintInOrder(panel.m_view, {first, inner, second, innermost, last}));
+    ExpectDifferent(picture, PaintInOrder(panel.m_view, {first, second, last, inner, innermost}));
+    ExpectDifferent(picture, PaintInOrder(panel.m_view, {first, second, inner, innermost, last}));
     ExpectDifferent(picture, PaintInOrder(panel.m_view, {innermost, inner, last, first, second}));
 }
 

@@ -4,6 +4,7 @@
 #include <simpledataelement.h>
 
 #include <QApplication>
+#include <QPicture>
 
 #include <gtest/gtest.h>
 
@@ -114,6 +115,16 @@ TEST(QtInspectorViewRepainting, GivesTheSamePixelsInEveryPartOfEmptyGroups)
     ExpectSameInEveryPart(panel.m_view);
 }
 
+TEST(QtInspectorViewRepainting, GivesTheSamePixelsInEveryPartInTheSmallestFont)
+{
+    sNestedPanel panel;
+    QFont font = panel.m_view.font();
+    font.setPixelSize(1);
+    panel.m_view.setFont(font);
+    panel.m_view.ResizeInspector(100, 150);
+    ExpectSameInEveryPart(panel.m_view);
+}
+
 TEST(QtInspectorViewRepainting, GivesTheSamePixelsInEveryPartFromRightToLeft)
 {
     QApplication::setLayoutDirection(Qt::RightToLeft);
@@ -175,6 +186,23 @@ TEST(QtInspectorViewRepainting, GivesTheSamePixelsInEveryPartForWrongLabelWidths
     }
 }
 
+TEST(QtInspectorViewRepainting, CutsALabelAtItsWidth)
+{
+    sTestPanel other;
+    CNarrowView view;
+    view.SetController(&other.m_controller);
+    view.m_iLabelWidth = 25;
+    view.AddElement(nullptr, new CTestControl(other.m_log, "control", -1), "Threshold", nullptr,
+                    nullptr);
+    view.ResizeInspector(200, 40);
+    images::ExpectSame(images::Render(view),
+                       images::Paint(view,
+                                     [](QPainter& painter) {
+                                         painter.drawText(QRect(5, 5, 25, 20), 129,
+                                                          QStringLiteral("Threshold"));
+                                     }));
+}
+
 TEST(QtInspectorViewRepainting, GivesTheSamePixelsInARegionOfSeveralParts)
 {
     sNestedPanel panel;
@@ -192,6 +220,46 @@ TEST(QtInspectorViewRepainting, GivesTheSamePixelsInARegionOfSeveralParts)
             }
         }
     }
+}
+
+TEST(QtInspectorViewRepainting, DrawsOnlyWhatIsInSight)
+{
+    // The size of the recorded drawing, with the panel scrolled to its middle.
+    const auto drawn = [](int rows)
+    {
+        sPaintedPanel panel;
+        for (int row = 0; row < rows; ++row)
+            panel.AddRow("Size", 20, panel.m_view.AddGroup("Group", nullptr));
+        panel.m_view.ResizeInspector(300, 100);
+        panel.m_view.m_pScrollBar->setValue(panel.m_view.m_pScrollBar->maximum() / 2);
+        panel.m_view.m_pScrollBar->hide();
+        QPicture picture;
+        panel.m_view.render(&picture);
+        return picture.size();
+    };
+    const unsigned few = drawn(20);
+    EXPECT_GT(few, 500U);
+    EXPECT_LT(drawn(1000), few * 3 / 2);
+}
+
+TEST(QtInspectorViewRepainting, DrawsWithWhatANoticeDidToTheWidget)
+{
+    sPaintedPanel panel;
+    panel.AddRow("Size");
+    panel.m_view.ResizeInspector(300, 100);
+    QPalette palette = panel.m_view.palette();
+    palette.setColor(QPalette::WindowText, Qt::darkGreen);
+    panel.m_controller.DirtifyController(new CRecordingNotice(panel.m_log, "notice"));
+    panel.m_controller.m_fnHandleControllerDirt = [&](auto&) { panel.m_view.setPalette(palette); };
+    const QImage picture = images::Render(panel.m_view);
+    images::ExpectSame(picture,
+                       images::Paint(panel.m_view,
+                                     [&](QPainter& painter)
+                                     {
+                                         EXPECT_EQ(painter.pen().color(), QColor(Qt::darkGreen));
+                                         CPanelPainter(painter).Text("Size", 5, 5,
+                                                                     panel.LabelWidth("Size"), 20);
+                                     }));
 }
 
 TEST(QtInspectorViewRepainting, DeliversTheNoticesOfTheControllerFirst)

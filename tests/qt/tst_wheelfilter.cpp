@@ -281,6 +281,16 @@ TEST_F(WheelFilter, TakesMotionsOfEverySize)
     EXPECT_EQ(Value(), maximum);
 }
 
+TEST_F(WheelFilter, AcceptsAnEventThatAHostHandsOn)
+{
+    QWheelEvent event(QPointF(10, 10), m_view.mapToGlobal(QPoint(10, 10)), QPoint(),
+                      QPoint(0, -120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    event.ignore();
+    EXPECT_TRUE(QCoreApplication::sendEvent(&m_view, &event));
+    EXPECT_TRUE(event.isAccepted());
+    EXPECT_EQ(Value(), 475);
+}
+
 TEST_F(WheelFilter, LeavesOtherEventsAlone)
 {
     QTest::keyClick(m_view.m_pScrollBar, Qt::Key_PageDown);
