@@ -203,8 +203,8 @@ TEST(Controller, DoesNotAnswerFromTheRowsItHadBeforeBeingAssigned)
 
 TEST(Controller, AnswersFromAsManyOtherRowsOnceItIsAssigned)
 {
+    CRecordingHost other; // lives longer, as the assigned controller takes over its log and view
     CRecordingHost host;
-    CRecordingHost other;
     const auto old = host.RegisterRow("old");
     const auto made = other.RegisterRow("made");
     *host.m_pController = *other.m_pController;
