@@ -82,6 +82,17 @@ void CInPlaceEdit::SetStartText(const char* text)
     setText(m_sStart);
 }
 
+bool CInPlaceEdit::MakeRoom()
+{
+    if (m_bMakingRoom)
+        return false;
+    const CInUse inUse(m_iInUse);
+    m_bMakingRoom = true;
+    EndEditing();
+    m_bMakingRoom = false;
+    return true;
+}
+
 void CInPlaceEdit::StartEditing(QWidget& owner, const QRect& area)
 {
     const CInUse inUse(m_iInUse);

@@ -29,6 +29,10 @@ public:
     /// Ends a running edit and then sets the text of the next one.
     void SetStartText(const char* text);
 
+    /// Ends a running edit because another is to start. Returns false from inside such an end: what
+    /// the host asks for there gives way to what it asked for before.
+    bool MakeRoom();
+
     /// Opens the editor over an area of the owner, in the owner's coordinates.
     void StartEditing(QWidget& owner, const QRect& area);
 
@@ -56,6 +60,7 @@ private:
     QString m_sCurrent;
     IInPlaceEditSink* m_pSink = nullptr;
     bool m_bEditing = false;
+    bool m_bMakingRoom = false;
     int m_iCause = CInspectorDataElement::eEndEditFocusLost;
     QString m_sComposition; ///< what an input method is still composing
     int m_iInUse = 0;

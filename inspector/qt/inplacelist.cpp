@@ -48,6 +48,16 @@ void CInPlaceList::SetSink(IInPlaceEditSink* sink)
     m_pSink = sink;
 }
 
+bool CInPlaceList::MakeRoom()
+{
+    if (m_bMakingRoom)
+        return false;
+    m_bMakingRoom = true;
+    EndChoice();
+    m_bMakingRoom = false;
+    return true;
+}
+
 void CInPlaceList::Reset()
 {
     clear();

@@ -26,6 +26,10 @@ public:
     /// Ends an open choice and then stores whom to tell about the next one; not owned.
     void SetSink(IInPlaceEditSink* sink);
 
+    /// Ends an open choice because another is to start. Returns false from inside such an end: what
+    /// the host asks for there gives way to what it asked for before.
+    bool MakeRoom();
+
     /// Forgets all entries and the choice, without a report.
     void Reset();
 
@@ -55,6 +59,7 @@ private:
     QString m_sCurrent;
     IInPlaceEditSink* m_pSink = nullptr;
     bool m_bOpen = false;
+    bool m_bMakingRoom = false;
     int m_iCause = CInspectorDataElement::eEndEditFocusLost;
     unsigned m_uiChoice = 1; ///< which choice the list is open for
     unsigned m_uiEnding = 0; ///< which choice is being reported; 0 for none

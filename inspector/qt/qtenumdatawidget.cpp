@@ -140,8 +140,7 @@ void CQTEnumDataWidget::mousePressEvent(QMouseEvent* event)
     // A choice of another widget ends first, and its host may remove this one.
     const QPointer<CQTEnumDataWidget> self(this);
     const std::shared_ptr<CInPlaceList> list = m_pInPlaceList;
-    list->EndChoice();
-    if (!self || !hasDefinition())
+    if (!list->MakeRoom() || !self || !hasDefinition())
         return;
     list->SetSink(this);
     list->Reset();

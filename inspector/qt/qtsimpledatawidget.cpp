@@ -48,7 +48,8 @@ void CQTSimpleDataWidget::StartEditing()
 {
     // An edit of another field ends first, and its host may remove this one.
     const QPointer<CQTSimpleDataWidget> self(this);
-    CInPlaceEdit::GetShared().EndEditing();
+    if (!CInPlaceEdit::GetShared().MakeRoom())
+        return;
     CSimpleDataElement* element = self ? GetSafeSimpleData() : nullptr;
     if (!element)
         return;
