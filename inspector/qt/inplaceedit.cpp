@@ -144,6 +144,10 @@ bool CInPlaceEdit::event(QEvent* event)
         QLineEdit::event(event);
         event->accept();
         return true;
+    case QEvent::WindowActivate:
+        // The line edit would drop the selection a little later unless it has the focus by then,
+        // and it may be on its way from one field to the next.
+        return QWidget::event(event);
     case QEvent::WindowDeactivate:
         if (m_bEditing)
             return EndWith(CInspectorDataElement::eEndEditFocusLost);

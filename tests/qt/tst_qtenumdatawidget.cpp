@@ -18,6 +18,7 @@
 
 #include <QApplication>
 #include <QMetaObject>
+#include <QMouseEvent>
 #include <QPointer>
 #include <QStyle>
 #include <QStyleOptionComboBox>
@@ -38,6 +39,7 @@ public:
     using CQTEnumDataWidget::m_iSortingMethod;
     using CQTEnumDataWidget::m_pInPlaceList;
     using CQTEnumDataWidget::m_sText;
+    using CQTEnumDataWidget::mousePressEvent;
 
     static constexpr bool OverridesPaintAndPressOnly()
     {
@@ -452,8 +454,9 @@ TEST_F(EnumWidget, LeavesTheListOfAnotherWidgetOpenWhenItHasNothingToOffer)
 {
     DropDown();
     CChoice other;
-    other.resize(100, 20);
-    QTest::mouseClick(&other, Qt::LeftButton);
+    QMouseEvent press(QEvent::MouseButtonPress, QPointF(5, 5), QPointF(5, 5), Qt::LeftButton,
+                      Qt::LeftButton, Qt::NoModifier);
+    other.mousePressEvent(&press);
     EXPECT_TRUE(List().isVisible());
     EXPECT_EQ(m_log.GetCalls(), CCalls());
     List().EndChoice();
