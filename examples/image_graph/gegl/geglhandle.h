@@ -1,5 +1,6 @@
 #pragma once
 
+#include <gegl.h>
 #include <glib-object.h>
 
 #include <memory>
@@ -33,4 +34,29 @@ public:
 
 private:
     GValue m_value = G_VALUE_INIT;
+};
+
+/// While it lives, nothing is worked out because values of the node change: no file is opened, no
+/// text laid out. For nodes whose picture nobody looks at yet.
+class CQuietNode
+{
+public:
+    explicit CQuietNode(GeglNode* node) : m_pNode(node) { Block(node); }
+    ~CQuietNode()
+    {
+        g_signal_handlers_unblock_matched(gegl_node_get_gegl_operation(m_pNode),
+                                          G_SIGNAL_MATCH_DATA, 0, 0, nullptr, nullptr, m_pNode);
+    }
+    CQuietNode(const CQuietNode&) = delete;
+    CQuietNode& operator=(const CQuietNode&) = delete;
+
+    /// The same for the rest of the node's life.
+    static void Block(GeglNode* node)
+    {
+        g_signal_handlers_block_matched(gegl_node_get_gegl_operation(node), G_SIGNAL_MATCH_DATA, 0,
+                                        0, nullptr, nullptr, node);
+    }
+
+private:
+    GeglNode* m_pNode;
 };

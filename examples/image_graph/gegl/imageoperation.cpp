@@ -65,10 +65,7 @@ CImageOperation::CImageOperation(const sOperationInfo& info)
     : m_info(info), m_pGraph(gegl_node_new()),
       m_pNode(gegl_node_new_child(m_pGraph, "operation", info.m_sName.c_str(), nullptr))
 {
-    // Nobody looks at the picture of this node, so nothing has to be worked out (no file opened, no
-    // text laid out) whenever one of its values changes.
-    g_signal_handlers_block_matched(gegl_node_get_gegl_operation(m_pNode), G_SIGNAL_MATCH_DATA, 0,
-                                    0, nullptr, nullptr, m_pNode);
+    CQuietNode::Block(m_pNode);
 }
 
 CImageOperation::~CImageOperation()

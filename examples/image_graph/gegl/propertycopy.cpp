@@ -42,6 +42,7 @@ void Unshare(GValue* value)
 
 void CopyProperties(GeglNode* source, GeglNode* target)
 {
+    const CQuietNode quiet(target);
     guint count = 0;
     const GPointer<GParamSpec*> specs(
         gegl_operation_list_properties(gegl_node_get_operation(source), &count));

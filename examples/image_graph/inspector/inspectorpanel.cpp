@@ -12,7 +12,8 @@
 namespace
 {
 
-const QColor g_colorNothing(232, 176, 92);
+const QColor g_colorNothing(240, 184, 100);
+const QColor g_colorLabels(188, 189, 190);
 
 } // namespace
 
@@ -24,6 +25,10 @@ CInspectorPanel::CInspectorPanel(CGraphDocument& document, QWidget* parent)
     m_pView->setParent(m_pFrame);
     m_pView->SetController(m_pController.get());
     m_pController->SetInspectorView(m_pView.get());
+    // Frames are a darker tone of the labels; the values shall stand out more than both.
+    QPalette palette = m_pView->palette();
+    palette.setColor(QPalette::WindowText, g_colorLabels);
+    m_pView->setPalette(palette);
     m_pController->SetDialogParent(this);
     m_pController->SetMessageSink([this](const std::string& text)
                                   { Q_EMIT Message(QString::fromStdString(text)); });

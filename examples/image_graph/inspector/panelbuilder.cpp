@@ -22,6 +22,7 @@ namespace
 // Controls of all groups begin in one column.
 constexpr int g_iControlPercent = 60;
 constexpr int g_iMinControlWidth = 60;
+const QColor g_colorNote(240, 184, 100);
 constexpr int g_iMaxLabelWidth = 132;
 
 bool IsNumber(const sImageProperty& property)
@@ -88,8 +89,8 @@ QString HelpText(const sImageProperty& property)
 
 CPanelBuilder::CPanelBuilder(CPanelController& controller, CInspectorView& view, sGraphItem& item,
                              bool preview)
-    : m_controller(controller), m_view(view), m_item(item),
-      m_info(item.m_pOperation->GetInfo()), m_bPreview(preview)
+    : m_controller(controller), m_view(view), m_item(item), m_info(item.m_pOperation->GetInfo()),
+      m_bPreview(preview)
 {
 }
 
@@ -159,8 +160,12 @@ void CPanelBuilder::Place(CInspectorDataElement* element, CInspectorDataWidget* 
             control->setObjectName(QString::fromStdString(property->m_sName));
             control->setToolTip(HelpText(*property));
         }
+        QPalette palette = control->palette();
+        if (property)
+            palette.setColor(QPalette::WindowText, palette.color(QPalette::Text));
         if (element->IsReadOnly())
-            control->setBackgroundRole(QPalette::Window);
+            palette.setColor(QPalette::Base, palette.color(QPalette::Window));
+        control->setPalette(palette);
     }
     m_controller.AddItem(element, widget, new sRowPayload(property));
     m_view.AddElement(element, widget, label, &request, parent);
@@ -235,11 +240,17 @@ void CPanelBuilder::AddOtherRow(const sImageProperty& property, CNode* group)
 void CPanelBuilder::AddWrappedText(const std::string& text, bool isNote)
 {
     auto* element = new CStaticDataElement(text.c_str(), Qt::AlignLeft | Qt::AlignTop);
+    auto* widget = new CWrappedTextWidget;
+    if (isNote)
+    {
+        QPalette palette = widget->palette();
+        palette.setColor(QPalette::WindowText, g_colorNote);
+        widget->setPalette(palette);
+        m_controller.SetNoteElement(element);
+    }
     CRequest request;
     request.SetOptions(CInspectorView::eRequestOptionNoLabel);
-    Place(element, new CWrappedTextWidget, nullptr, nullptr, request, nullptr);
-    if (isNote)
-        m_controller.SetNoteElement(element);
+    Place(element, widget, nullptr, nullptr, request, nullptr);
 }
 
 void CPanelBuilder::AddResetButton()

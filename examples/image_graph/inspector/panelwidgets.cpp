@@ -45,9 +45,6 @@ int CWrappedTextWidget::GetRequiredHeight(int width)
 void CWrappedTextWidget::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    QColor color = palette().color(QPalette::WindowText);
-    color.setAlphaF(0.75);
-    painter.setPen(color);
     painter.drawText(rect(), g_iWrapFlags, Text());
 }
 

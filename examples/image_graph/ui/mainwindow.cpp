@@ -26,7 +26,7 @@ CMainWindow::CMainWindow()
     BuildActions();
     ConnectParts();
     UpdateTitle();
-    resize(1280, 800);
+    resize(1360, 780);
 }
 
 CMainWindow::~CMainWindow()
@@ -55,7 +55,7 @@ void CMainWindow::BuildPanels()
     all->addWidget(m_pPicture);
     all->addWidget(m_pInspector);
     all->setStretchFactor(1, 1);
-    all->setSizes({230, 670, 380});
+    all->setSizes({230, 750, 380});
     all->setHandleWidth(1);
     left->setHandleWidth(8);
     all->setChildrenCollapsible(false);
