@@ -64,6 +64,14 @@ TEST(ImageOperation, ReadsTheTypesOfItsProperties)
     EXPECT_EQ(FindOperation("gegl:cell-noise")->FindProperty("seed")->m_eKind, ePropertySeed);
 }
 
+TEST(ImageOperation, MarksWhatAnOperationOnlyReports)
+{
+    sSubject width("gegl:text", "width");
+    EXPECT_TRUE(width.m_pProperty->m_bReadOnly);
+    EXPECT_EQ(width.Set("7").m_eOutcome, sWriteResult::eRefused);
+    EXPECT_FALSE(FindOperation("gegl:panorama-projection")->FindProperty("width")->m_bReadOnly);
+}
+
 TEST(ImageOperation, TakesANumberAndGivesItBack)
 {
     sSubject subject("gegl:gaussian-blur", "std-dev-x");

@@ -15,6 +15,7 @@
 
 #include <QLineEdit>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -151,6 +152,32 @@ TEST_F(CWindowTest, BringsTheRowsUpToDateAfterAReset)
     std::string text;
     field->GetDataAsString(text);
     EXPECT_EQ(text, "16");
+}
+
+TEST_F(CWindowTest, KeepsTheRowsForAnotherOperationOfTheSameKind)
+{
+    AddBySearch("gegl:checkerboard");
+    auto* field = Inspector().findChild<CQTSimpleDataWidget*>(QStringLiteral("x"));
+    ASSERT_TRUE(field);
+    field->FinishValueEdit("99", CInspectorDataElement::eEndEditValidate);
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("board.xml"));
+    QString message;
+    ASSERT_TRUE(Document().Save(path, message));
+    field->FinishValueEdit("5", CInspectorDataElement::eEndEditValidate);
+    Inspector().grab();
+
+    ASSERT_TRUE(m_pWindow->OpenGraph(path));
+    EXPECT_EQ(Inspector().findChild<CQTSimpleDataWidget*>(QStringLiteral("x")), field);
+    std::string text;
+    field->GetDataAsString(text);
+    EXPECT_EQ(text, "5") << "the rows wait for the next painting";
+    Inspector().grab();
+    field->GetDataAsString(text);
+    EXPECT_EQ(text, "99");
+    field->FinishValueEdit("7", CInspectorDataElement::eEndEditValidate);
+    const CImageOperation& board = *Document().GetChain()[0]->m_pOperation;
+    EXPECT_EQ(board.GetText(*board.GetInfo().FindProperty("x")), "7");
 }
 
 TEST_F(CWindowTest, KeepsTheGraphWhenAFileIsBad)

@@ -6,7 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QSignalSpy>
 #include <QTest>
 #include <QThread>
 
@@ -29,6 +28,28 @@ void AddRed(CGraphDocument& document, const char* width, const char* height)
     Set(document, crop, "width", width);
     Set(document, crop, "height", height);
 }
+
+/// Listens to a renderer in the thread of the tests, as a window does.
+class CListener : public QObject
+{
+public:
+    explicit CListener(CRenderer& renderer)
+    {
+        connect(&renderer, &CRenderer::Progress, this, [this] { ++m_iProgress; });
+        connect(&renderer, &CRenderer::Cancelled, this, [this] { ++m_iCancelled; });
+        connect(&renderer, &CRenderer::Finished, this,
+                [this](const QImage& image)
+                {
+                    m_pThread = QThread::currentThread();
+                    m_vImages.push_back(image);
+                });
+    }
+
+    int m_iProgress = 0;
+    int m_iCancelled = 0;
+    std::vector<QImage> m_vImages;
+    QThread* m_pThread = nullptr;
+};
 
 CRenderGraph::sResult Render(const CGraphDocument& document)
 {
@@ -127,16 +148,12 @@ TEST(Renderer, WorksInAnotherThreadAndReportsInThisOne)
     CGraphDocument document;
     AddRed(document, "30", "100");
     CRenderer renderer;
-    QSignalSpy finished(&renderer, &CRenderer::Finished);
-    const QSignalSpy progress(&renderer, &CRenderer::Progress);
-    QThread* where = nullptr;
-    QObject::connect(&renderer, &CRenderer::Finished, &document,
-                     [&] { where = QThread::currentThread(); });
+    const CListener listener(renderer);
     renderer.Render(document.GetChain());
-    ASSERT_TRUE(finished.wait(g_iPatience));
-    EXPECT_EQ(where, QThread::currentThread());
-    EXPECT_EQ(finished.at(0).at(0).value<QImage>().size(), QSize(30, 100));
-    EXPECT_EQ(progress.count(), 3);
+    QTRY_COMPARE_WITH_TIMEOUT(listener.m_vImages.size(), 1u, g_iPatience);
+    EXPECT_EQ(listener.m_pThread, QThread::currentThread());
+    EXPECT_EQ(listener.m_vImages[0].size(), QSize(30, 100));
+    EXPECT_EQ(listener.m_iProgress, 3);
 }
 
 TEST(Renderer, ShowsTheNewestOfManyEdits)
@@ -145,7 +162,7 @@ TEST(Renderer, ShowsTheNewestOfManyEdits)
     sGraphItem* color = document.Add("gegl:color", nullptr);
     const sImageProperty& value = *color->m_pOperation->GetInfo().FindProperty("value");
     CRenderer renderer;
-    QSignalSpy finished(&renderer, &CRenderer::Finished);
+    const CListener listener(renderer);
     for (int i = 0; i <= 50; ++i)
     {
         document.SetColor(color, value, {i / 50.0, 0, 0, 1});
@@ -153,13 +170,13 @@ TEST(Renderer, ShowsTheNewestOfManyEdits)
     }
     const auto isDone = [&]
     {
-        return !finished.isEmpty() &&
-               finished.last().at(0).value<QImage>().pixelColor(0, 0) == QColor(255, 0, 0);
+        return !listener.m_vImages.empty() &&
+               listener.m_vImages.back().pixelColor(0, 0) == QColor(255, 0, 0);
     };
     QTRY_VERIFY_WITH_TIMEOUT(isDone(), g_iPatience);
-    const auto count = finished.count();
+    const std::size_t count = listener.m_vImages.size();
     QTest::qWait(200);
-    EXPECT_EQ(finished.count(), count) << "something older came after the newest";
+    EXPECT_EQ(listener.m_vImages.size(), count) << "something older came after the newest";
 }
 
 TEST(Renderer, GivesUpWhenItIsCancelled)
@@ -167,12 +184,11 @@ TEST(Renderer, GivesUpWhenItIsCancelled)
     CGraphDocument document;
     document.Add("gegl:cell-noise", nullptr);
     CRenderer renderer;
-    QSignalSpy cancelled(&renderer, &CRenderer::Cancelled);
-    const QSignalSpy finished(&renderer, &CRenderer::Finished);
+    const CListener listener(renderer);
     renderer.Render(document.GetChain());
     renderer.Cancel();
-    QTRY_COMPARE_WITH_TIMEOUT(cancelled.count(), 1, g_iPatience);
-    EXPECT_EQ(finished.count(), 0);
+    QTRY_COMPARE_WITH_TIMEOUT(listener.m_iCancelled, 1, g_iPatience);
+    EXPECT_TRUE(listener.m_vImages.empty());
 }
 
 TEST(Renderer, EndsWhileItIsRendering)

@@ -68,9 +68,10 @@ sImageProperty ReadProperty(const std::string& operation, GParamSpec* spec)
     else if (spec->value_type == G_TYPE_STRING)
         property.m_eKind = ePropertyText;
     property.m_bMultiLine = Key(operation, spec, "multiline") == "true";
-    // What an operation reports about its result is no parameter of it.
-    property.m_bReadOnly =
-        !(spec->flags & G_PARAM_WRITABLE) || Key(operation, spec, "role") == "output-extent";
+    // What an operation only reports is writable all the same; its description tells.
+    property.m_bReadOnly = !(spec->flags & G_PARAM_WRITABLE) ||
+                           property.m_sHelp.find("read only") != std::string::npos ||
+                           property.m_sHelp.find("read-only") != std::string::npos;
     return property;
 }
 

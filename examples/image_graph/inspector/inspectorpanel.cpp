@@ -70,10 +70,10 @@ CInspectorPanel::~CInspectorPanel()
 void CInspectorPanel::ShowItem(sGraphItem* item)
 {
     if (item != m_pController->GetItem() || !item)
-        Rebuild(item);
+        ShowOperation(item);
 }
 
-void CInspectorPanel::Rebuild(sGraphItem* item)
+void CInspectorPanel::ShowOperation(sGraphItem* item)
 {
     m_pController->SetItem(item);
     const sOperationInfo* info = item ? &item->m_pOperation->GetInfo() : nullptr;
@@ -89,8 +89,11 @@ void CInspectorPanel::SetPreview(bool on)
     m_pPreview->setChecked(on);
     if (m_pController->IsPreviewMode() == on)
         return;
+    // The two modes have different rows.
+    sGraphItem* item = m_pController->GetItem();
+    m_pController->SetItem(nullptr);
     m_pController->SetPreviewMode(on);
-    Rebuild(m_pController->GetItem());
+    ShowOperation(item);
 }
 
 bool CInspectorPanel::eventFilter(QObject* watched, QEvent* event)

@@ -35,7 +35,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void Rebuild(sGraphItem* item);
+    void ShowOperation(sGraphItem* item);
     void FitView();
 
     CGraphDocument& m_document;

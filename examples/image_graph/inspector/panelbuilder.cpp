@@ -87,10 +87,9 @@ QString HelpText(const sImageProperty& property)
 
 } // namespace
 
-CPanelBuilder::CPanelBuilder(CPanelController& controller, CInspectorView& view, sGraphItem& item,
-                             bool preview)
-    : m_controller(controller), m_view(view), m_item(item), m_info(item.m_pOperation->GetInfo()),
-      m_bPreview(preview)
+CPanelBuilder::CPanelBuilder(CPanelController& controller, CInspectorView& view,
+                             const sOperationInfo& info, bool preview)
+    : m_controller(controller), m_view(view), m_info(info), m_bPreview(preview)
 {
 }
 
@@ -173,7 +172,7 @@ void CPanelBuilder::Place(CInspectorDataElement* element, CInspectorDataWidget* 
 
 void CPanelBuilder::AddTextRow(const sImageProperty& property, CNode* group)
 {
-    const sPropertyBinding binding{&m_controller, &m_item, &property};
+    const sPropertyBinding binding{&m_controller, &property};
     CInspectorDataWidget* widget = nullptr;
     if (property.m_bMultiLine && !m_bPreview)
         widget = new CQTSimpleTextWidget;
@@ -185,14 +184,14 @@ void CPanelBuilder::AddTextRow(const sImageProperty& property, CNode* group)
 
 void CPanelBuilder::AddBoolRow(const sImageProperty& property, CNode* group)
 {
-    const sPropertyBinding binding{&m_controller, &m_item, &property};
+    const sPropertyBinding binding{&m_controller, &property};
     Place(new CBoolPropertyElement(binding), new CQTSimpleBoolWidget, &property,
           Shortened(property.m_sLabel).c_str(), ColumnRequest(), group);
 }
 
 void CPanelBuilder::AddEnumRow(const sImageProperty& property, CNode* group)
 {
-    const sPropertyBinding binding{&m_controller, &m_item, &property};
+    const sPropertyBinding binding{&m_controller, &property};
     auto* widget = new CQTEnumDataWidget;
     widget->SetEnumSortingMethod(2); // as the definition has it
     Place(new CEnumPropertyElement(binding), widget, &property,
@@ -204,11 +203,11 @@ void CPanelBuilder::AddColorRow(const sImageProperty& property, CNode* group)
     CRequest request = ColumnRequest();
     CNode* line =
         m_view.AddSingleLineContainer(Shortened(property.m_sLabel).c_str(), &request, group);
-    const sPropertyBinding whole{&m_controller, &m_item, &property};
+    const sPropertyBinding whole{&m_controller, &property};
     Place(new CSwatchElement(whole), new CSwatchWidget, &property, nullptr, FixedRequest(20), line);
     for (int component = 0; component < 4; ++component)
     {
-        const sPropertyBinding part{&m_controller, &m_item, &property, component};
+        const sPropertyBinding part{&m_controller, &property, component};
         Place(new CTextPropertyElement(part), new CQTSimpleDataWidget, &property, nullptr,
               AtLeast(24), line);
     }
@@ -219,7 +218,7 @@ void CPanelBuilder::AddFileRow(const sImageProperty& property, CNode* group)
     CRequest request = ColumnRequest();
     CNode* line =
         m_view.AddSingleLineContainer(Shortened(property.m_sLabel).c_str(), &request, group);
-    const sPropertyBinding binding{&m_controller, &m_item, &property};
+    const sPropertyBinding binding{&m_controller, &property};
     Place(new CTextPropertyElement(binding), new CQTSimpleDataWidget, &property, nullptr,
           AtLeast(40), line);
     const auto number = static_cast<unsigned long>(&property - m_info.m_vProperties.data());

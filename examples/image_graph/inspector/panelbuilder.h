@@ -11,7 +11,7 @@ class QWidget;
 class CPanelBuilder
 {
 public:
-    CPanelBuilder(CPanelController& controller, CInspectorView& view, sGraphItem& item,
+    CPanelBuilder(CPanelController& controller, CInspectorView& view, const sOperationInfo& info,
                   bool preview);
     void Build();
 
@@ -36,7 +36,6 @@ private:
 
     CPanelController& m_controller;
     CInspectorView& m_view;
-    sGraphItem& m_item;
     const sOperationInfo& m_info;
     bool m_bPreview;
 };

@@ -17,9 +17,17 @@ CPanelController::CPanelController(CGraphDocument& document) : m_document(docume
 
 void CPanelController::SetItem(sGraphItem* item)
 {
+    const sOperationInfo* info = item ? &item->m_pOperation->GetInfo() : nullptr;
+    m_pItem = item;
+    if (info && info == m_pInfo)
+    {
+        ShowNote("");
+        RefreshInspector();
+        return;
+    }
     ClearAllData();
     m_pNote = nullptr;
-    m_pItem = item;
+    m_pInfo = info;
     if (item)
         BuildInspector();
 }
@@ -31,7 +39,7 @@ void CPanelController::SetMessageSink(std::function<void(const std::string&)> si
 
 void CPanelController::BuildInspector()
 {
-    CPanelBuilder(*this, *m_pView, *m_pItem, IsPreviewMode()).Build();
+    CPanelBuilder(*this, *m_pView, *m_pInfo, IsPreviewMode()).Build();
     ConnectDataElements();
 }
 
@@ -68,14 +76,15 @@ void CPanelController::Browse(const sImageProperty& property)
     DirtifyRowsOf(property);
 }
 
-void CPanelController::PickColor(sGraphItem* item, const sImageProperty& property,
+void CPanelController::PickColor(const sImageProperty& property,
                                  const CImageOperation::CColor& current)
 {
+    sGraphItem* item = m_pItem;
     const auto part = [&](std::size_t i) { return qBound(0.0, current.at(i), 1.0); };
     const QColor picked = QColorDialog::getColor(
         QColor::fromRgbF(part(0), part(1), part(2), part(3)), m_pDialogParent,
         QString::fromStdString(property.m_sLabel), QColorDialog::ShowAlphaChannel);
-    if (picked.isValid() && m_document.Contains(item))
+    if (picked.isValid() && item == m_pItem)
         m_document.SetColor(item, property,
                             {picked.redF(), picked.greenF(), picked.blueF(), picked.alphaF()});
 }

@@ -21,7 +21,8 @@ public:
     CGraphDocument& GetDocument() { return m_document; }
     sGraphItem* GetItem() const { return m_pItem; }
 
-    /// Shows an operation, or nothing when \p item is null.
+    /// Shows an operation, or nothing when \p item is null. The rows stay when it is one of the
+    /// kind that is shown already: its values reach them before they are painted next.
     void SetItem(sGraphItem* item);
     /// The message of the row that says what became of a value; the row of the panel shows it.
     void SetNoteElement(CStaticDataElement* element) { m_pNote = element; }
@@ -37,8 +38,7 @@ public:
     /// Called by the elements.
     void OnValueWritten(CInspectorDataElement* element, const sImageProperty& property,
                         const sWriteResult& result);
-    void PickColor(sGraphItem* item, const sImageProperty& property,
-                   const CImageOperation::CColor& current);
+    void PickColor(const sImageProperty& property, const CImageOperation::CColor& current);
 
     void BuildInspector() override;
     /// Marks everything as out of date; the rows are read again before they are painted next.
@@ -53,6 +53,7 @@ private:
 
     CGraphDocument& m_document;
     sGraphItem* m_pItem = nullptr;
+    const sOperationInfo* m_pInfo = nullptr; ///< of the operation that the rows are made for
     CStaticDataElement* m_pNote = nullptr;
     std::function<void(const std::string&)> m_sink;
     QPointer<QWidget> m_pDialogParent;

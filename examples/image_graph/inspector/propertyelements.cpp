@@ -4,7 +4,7 @@
 
 std::string sPropertyBinding::Read() const
 {
-    const CImageOperation& operation = *m_pItem->m_pOperation;
+    const CImageOperation& operation = *m_pPanel->GetItem()->m_pOperation;
     return m_iComponent < 0 ? operation.GetText(*m_pProperty)
                             : operation.GetComponent(*m_pProperty, m_iComponent);
 }
@@ -12,9 +12,10 @@ std::string sPropertyBinding::Read() const
 void sPropertyBinding::Write(const std::string& text, CInspectorDataElement* element) const
 {
     CGraphDocument& document = m_pPanel->GetDocument();
-    const sWriteResult result =
-        m_iComponent < 0 ? document.SetText(m_pItem, *m_pProperty, text)
-                         : document.SetComponent(m_pItem, *m_pProperty, m_iComponent, text);
+    sGraphItem* item = m_pPanel->GetItem();
+    const sWriteResult result = m_iComponent < 0
+                                    ? document.SetText(item, *m_pProperty, text)
+                                    : document.SetComponent(item, *m_pProperty, m_iComponent, text);
     m_pPanel->OnValueWritten(element, *m_pProperty, result);
 }
 
@@ -95,10 +96,10 @@ void CSwatchElement::Connect()
 
 void CSwatchElement::LoadValue()
 {
-    m_color = m_binding.m_pItem->m_pOperation->GetColor(*m_binding.m_pProperty);
+    m_color = m_binding.m_pPanel->GetItem()->m_pOperation->GetColor(*m_binding.m_pProperty);
 }
 
 void CSwatchElement::PickColor()
 {
-    m_binding.m_pPanel->PickColor(m_binding.m_pItem, *m_binding.m_pProperty, m_color);
+    m_binding.m_pPanel->PickColor(*m_binding.m_pProperty, m_color);
 }

@@ -9,11 +9,11 @@
 
 class CPanelController;
 
-/// What an element of the panel shows: a property of an operation, or one component of a colour.
+/// What an element of the panel shows: a property of the operation that the panel shows, or one
+/// component of a colour.
 struct sPropertyBinding
 {
     CPanelController* m_pPanel = nullptr;
-    sGraphItem* m_pItem = nullptr;
     const sImageProperty* m_pProperty = nullptr;
     int m_iComponent = -1; ///< of a colour; -1 for the property as a whole
 
