@@ -171,7 +171,7 @@ private:
     void IndexRow(CRows::iterator row);
     CRows::iterator FindRow(const CInspectorDataElement* element);
     void UnlinkRow(CRows::iterator row);
-    void StartEditingAt(std::size_t stop);
+    void StartEditingAt(std::size_t place);
     /// Returns false when the controller did not survive it.
     bool DeliverRow(CDelivery& delivery, sInspectorControllerData* record,
                     std::vector<IDirtyControllerDataInfo*>& notices);

@@ -13,6 +13,8 @@ CInspectorDataWidget::CInspectorDataWidget(const CInspectorDataWidget& other)
 {
 }
 
+// A plain pointer is copied, so that assigning a widget to itself is harmless.
+// NOLINTNEXTLINE(bugprone-unhandled-self-assignment)
 CInspectorDataWidget& CInspectorDataWidget::operator=(const CInspectorDataWidget& other)
 {
     m_pElement = other.m_pElement;
