@@ -1,0 +1,78 @@
+#include "task.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+
+#include <ctime>
+#include <map>
+
+// Every task on every twin at several sizes. What is timed is the processor time of the thread,
+// which a busy machine disturbs less than the time of day.
+
+namespace
+{
+
+double Seconds()
+{
+    timespec now{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+}
+
+void RunTask(benchmark::State& state, const sTask& task, const sTwin& twin, const CRowPlan& plan)
+{
+    CTaskPanel panel(task, twin, plan);
+    for (auto _ : state)
+    {
+        panel.Prepare();
+        const double start = Seconds();
+        panel.Act();
+        state.SetIterationTime(Seconds() - start);
+    }
+}
+
+/// A task that takes seconds at this size is left out.
+bool IsTooLong(const sTask& task, const sTwin& twin, int rows)
+{
+    if (rows > 10000 && twin.m_sName == "form")
+        return true;
+    return rows > 1000 && task.m_sName == "tab-through";
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    std::map<int, CRowPlan> plans;
+    for (int rows : {100, 1000, 10000, 100000})
+        plans[rows] = MakeRowPlan(rows);
+    for (const auto& [rows, plan] : plans)
+    {
+        for (const sTask& task : AllTasks())
+        {
+            for (const sTwin& twin : AllTwins())
+            {
+                if (IsTooLong(task, twin, rows))
+                    continue;
+                const std::string name =
+                    task.m_sName + "/" + std::to_string(rows) + "/" + twin.m_sName;
+                benchmark::RegisterBenchmark(
+                    name.c_str(),
+                    [&task, &twin, &plan = plan](benchmark::State& state)
+                    { RunTask(state, task, twin, plan); })
+                    ->UseManualTime()
+                    ->Iterations(task.m_iRounds)
+                    ->Unit(benchmark::kMillisecond);
+            }
+        }
+    }
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,159 @@
+#include "task.h"
+
+#include <algorithm>
+#include <numeric>
+#include <random>
+
+namespace
+{
+
+void Fill(CPanel& panel, const CRowPlan& plan, int)
+{
+    panel.Fill(plan);
+    panel.Paint();
+}
+
+void LayOut(CPanel& panel, const CRowPlan&, int round)
+{
+    panel.SetWidth(g_iPanelWidth + round % 2);
+}
+
+void ChangeWidth(CPanel& panel, const CRowPlan& plan, int round)
+{
+    LayOut(panel, plan, round);
+    panel.Paint();
+}
+
+void ScrollOneRow(CPanel& panel, const CRowPlan&, int round)
+{
+    // Down for a while and up again, so that every round moves.
+    const int steps = std::min(panel.GetScrollSteps(), 50);
+    const int place = steps > 0 ? round % (2 * steps) : 0;
+    panel.ScrollTo(place <= steps ? place : 2 * steps - place);
+    panel.Paint();
+}
+
+void ScrollThrough(CPanel& panel, const CRowPlan&, int)
+{
+    for (int i = 0; i <= 100; ++i)
+    {
+        panel.ScrollTo(static_cast<int>(static_cast<long long>(panel.GetScrollSteps()) * i / 100));
+        panel.Paint();
+    }
+}
+
+void ChangeOneValue(CPanel& panel, const CRowPlan&, int round)
+{
+    panel.ChangeValue(4, round);
+    panel.Paint();
+}
+
+void ChangeAllValues(CPanel& panel, const CRowPlan&, int round)
+{
+    panel.ChangeAllValues(round);
+    panel.Paint();
+}
+
+void TabThrough(CPanel& panel, const CRowPlan&, int)
+{
+    for (int i = 0; i < panel.GetRowCount(); ++i)
+    {
+        panel.GoToNextRow();
+        panel.Paint();
+    }
+}
+
+void RemoveRows(CPanel& panel, std::vector<int>& rows)
+{
+    for (int row : rows)
+        panel.RemoveRow(row);
+}
+
+std::vector<int> RowNumbers(const CPanel&, int count)
+{
+    std::vector<int> rows(count);
+    std::iota(rows.begin(), rows.end(), 0);
+    return rows;
+}
+
+void RemoveInOrder(CPanel& panel, const CRowPlan&, int)
+{
+    std::vector<int> rows = RowNumbers(panel, panel.GetRowCount());
+    RemoveRows(panel, rows);
+}
+
+void RemoveInReverse(CPanel& panel, const CRowPlan&, int)
+{
+    std::vector<int> rows = RowNumbers(panel, panel.GetRowCount());
+    std::reverse(rows.begin(), rows.end());
+    RemoveRows(panel, rows);
+}
+
+void RemoveAtRandom(CPanel& panel, const CRowPlan&, int)
+{
+    std::vector<int> rows = RowNumbers(panel, panel.GetRowCount());
+    std::shuffle(rows.begin(), rows.end(), std::mt19937(1));
+    RemoveRows(panel, rows);
+}
+
+void Clear(CPanel& panel, const CRowPlan&, int)
+{
+    panel.Clear();
+}
+
+} // namespace
+
+const std::vector<sTask>& AllTasks()
+{
+    static const std::vector<sTask> tasks{
+        {"fill", sTask::eEmptyPanel, Fill, 1},
+        {"width", sTask::eSamePanel, ChangeWidth, 10},
+        {"layout", sTask::eSamePanel, LayOut, 10},
+        {"scroll", sTask::eSamePanel, ScrollOneRow, 20},
+        {"scroll-through", sTask::eSamePanel, ScrollThrough, 1},
+        {"one-value", sTask::eSamePanel, ChangeOneValue, 50},
+        {"all-values", sTask::eSamePanel, ChangeAllValues, 3},
+        {"tab-through", sTask::eFilledPanel, TabThrough, 1},
+        {"remove-in-order", sTask::eFilledPanel, RemoveInOrder, 1},
+        {"remove-in-reverse", sTask::eFilledPanel, RemoveInReverse, 1},
+        {"remove-at-random", sTask::eFilledPanel, RemoveAtRandom, 1},
+        {"clear", sTask::eFilledPanel, Clear, 1},
+    };
+    return tasks;
+}
+
+const std::vector<sTwin>& AllTwins()
+{
+    static const std::vector<sTwin> twins{
+        {"inspector", MakeInspectorPanel},
+        {"form", MakeFormPanel},
+        {"tree", MakeTreePanel},
+    };
+    return twins;
+}
+
+CTaskPanel::CTaskPanel(const sTask& task, const sTwin& twin, const CRowPlan& plan)
+    : m_rTask(task), m_rTwin(twin), m_rPlan(plan)
+{
+}
+
+void CTaskPanel::Prepare()
+{
+    if (m_pPanel && m_rTask.m_ePanel == sTask::eSamePanel)
+        return;
+    m_pPanel.reset();
+    m_pPanel = m_rTwin.m_pMake();
+    if (m_rTask.m_ePanel == sTask::eEmptyPanel)
+        return;
+    m_pPanel->Fill(m_rPlan);
+    // Once for what showing brings about, once for what that asks for.
+    m_pPanel->Paint();
+    m_pPanel->Paint();
+    if (m_rTask.m_ePanel == sTask::eSamePanel)
+        Act();
+}
+
+void CTaskPanel::Act()
+{
+    m_rTask.m_pAct(*m_pPanel, m_rPlan, ++m_iRound);
+}
