@@ -85,4 +85,6 @@ private:
     QFont m_fontLabels;
     bool m_bPreviewLabels = false;
     int m_iLabelEncoding = 0;
+    /// True from a call of UpdateView until the whole panel is painted.
+    bool m_bRepaintAsked = false;
 };

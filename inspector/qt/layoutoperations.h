@@ -1,17 +1,16 @@
 #pragma once
 
-#include <QPoint>
-#include <QSize>
+#include "panelrepaint.h"
 
 /// The layout operations of a data widget, which all forward to its Qt base.
 #define INSPECTOR_LAYOUT_OPERATIONS(Widget)                                                        \
     void Widget::ResizeWidget(int width, int height)                                               \
     {                                                                                              \
-        resize(QSize(width, height));                                                              \
+        ResizeControl(*this, QSize(width, height));                                                \
     }                                                                                              \
     void Widget::MoveWidget(int x, int y)                                                          \
     {                                                                                              \
-        move(QPoint(x, y));                                                                        \
+        MoveControl(*this, QPoint(x, y));                                                          \
     }                                                                                              \
     void Widget::Show()                                                                            \
     {                                                                                              \

@@ -49,7 +49,7 @@ const char* CQTEnumDataWidget::GetType()
 void CQTEnumDataWidget::OnValueChange(sValueChangeInfo*)
 {
     TakeElementText();
-    update();
+    RepaintControl(*this);
 }
 
 void CQTEnumDataWidget::TakeElementText()

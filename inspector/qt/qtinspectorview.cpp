@@ -5,6 +5,7 @@
 #include <qttextencoding.h>
 
 #include "../view/pixels.h"
+#include "panelrepaint.h"
 #include "text.h"
 #include "wheelfilter.h"
 
@@ -67,6 +68,7 @@ bool CQTInspectorView::HasPreviewMessage()
 
 void CQTInspectorView::ResizeInspector(int width, int height)
 {
+    const CWholePlacement placement(*this, m_pContent);
     const int contentWidth = pixels::Difference(width, g_iScrollBarWidth);
     if (height == -1)
     {
@@ -81,11 +83,13 @@ void CQTInspectorView::ResizeInspector(int width, int height)
 
 void CQTInspectorView::UpdateView()
 {
+    m_bRepaintAsked = isVisible() && updatesEnabled();
     update();
 }
 
 void CQTInspectorView::OnContentHeightSet()
 {
+    const CWholePlacement placement(*this, m_pContent);
     if (m_iInspectorHeight >= m_iContentHeight)
     {
         m_pScrollBar->setValue(0);
@@ -106,6 +110,7 @@ void CQTInspectorView::OnContentHeightSet()
 
 void CQTInspectorView::SliderValueChanged(int)
 {
+    const CWholePlacement placement(*this, m_pContent);
     OffsetControls(0, m_pScrollBar->value());
     UpdateView();
 }
@@ -186,6 +191,7 @@ int CQTInspectorView::GetElementLabelWidth(sInspectorElement* element)
 
 void CQTInspectorView::OnToggleShowContent(bool shown)
 {
+    const CWholePlacement placement(*this, m_pContent);
     CInspectorView::OnToggleShowContent(shown);
     UpdateView();
 }

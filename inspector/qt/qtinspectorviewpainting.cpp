@@ -1,5 +1,6 @@
 #include <qtinspectorview.h>
 
+#include "panelrepaint.h"
 #include "text.h"
 
 #include <QPaintEvent>
@@ -24,7 +25,12 @@ bool MayShow(const QRectF& drawn, const QRect& exposed)
 
 void CQTInspectorView::paintEvent(QPaintEvent* event)
 {
-    OnPreDraw();
+    {
+        // What changes now is drawn in this frame, controls included, if all of the panel is.
+        const CPaintAhead ahead(m_pContent, m_bRepaintAsked ? event->region() : QRegion());
+        m_bRepaintAsked = false;
+        OnPreDraw();
+    }
     QWidget::paintEvent(event);
     QPainter painter(this);
     if (HasPreviewMessage())

@@ -37,7 +37,7 @@ void CQTSimpleBoolWidget::OnValueChange(sValueChangeInfo*)
     CBoolDataElement* element = GetSafeData();
     assert(element && "CQTSimpleBoolWidget::OnValueChange: no bool element is bound");
     m_bValue = element->GetValue();
-    update();
+    RepaintControl(*this);
 }
 
 int CQTSimpleBoolWidget::GetRequiredWidth()

@@ -68,7 +68,7 @@ void CQTSimpleDataWidget::OnValueChange(sValueChangeInfo*)
     std::string text;
     provider->GetDataAsString(text);
     m_sText = ToQString(text);
-    update();
+    RepaintControl(*this);
 }
 
 int CQTSimpleDataWidget::GetRequiredWidth()
