@@ -77,8 +77,16 @@ protected:
 
 private:
     void ReleaseControls();
-    void PaintLabel(QPainter& painter, const QRect& exposed, const sInspectorElement& row);
-    void PaintGroup(QPainter& painter, const QRect& exposed, const sInspectorElement& group);
+    /// What a paint event is about.
+    struct sExposed
+    {
+        QRect m_rect;
+        QRect m_rectAround; ///< as far as letters may stand out
+        bool m_bUpright;    ///< letters are not slanted
+    };
+
+    void PaintLabel(QPainter& painter, const sExposed& exposed, const sInspectorElement& row);
+    void PaintGroup(QPainter& painter, const sExposed& exposed, const sInspectorElement& group);
 
     /// Label widths by name, as they are in this font, mode and encoding.
     std::unordered_map<std::string, int> m_mapLabelWidths;

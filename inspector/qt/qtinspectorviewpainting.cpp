@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QScrollBar>
 
+#include <algorithm>
 #include <deque>
 
 namespace
@@ -19,6 +20,18 @@ constexpr int g_iLabelFlags = Qt::AlignLeft | Qt::AlignVCenter;
 bool MayShow(const QRectF& drawn, const QRect& exposed)
 {
     return drawn.width() <= 0 || drawn.height() <= 0 || drawn.intersects(exposed);
+}
+
+/// Whether a row lies above or below a rectangle, told without much ado: most rows do.
+bool IsAboveOrBelow(long long top, long long height, const QRect& exposed)
+{
+    return height > 0 && (top > exposed.bottom() || top + height <= exposed.top());
+}
+
+/// Whether upright letters of a text stay in the rectangle that it is measured by.
+bool IsPlain(const std::string& text)
+{
+    return std::all_of(text.begin(), text.end(), [](char c) { return c >= ' ' && c <= '~'; });
 }
 
 } // namespace
@@ -47,7 +60,8 @@ void CQTInspectorView::paintEvent(QPaintEvent* event)
     // Slanted letters and stacked marks stand out of the rectangle that their text is measured by,
     // and a frame by half of its line.
     const int reach = 2 * painter.fontMetrics().height();
-    const QRect exposed = event->rect().adjusted(-reach, -reach, reach, reach);
+    const sExposed exposed{event->rect(), event->rect().adjusted(-reach, -reach, reach, reach),
+                           painter.font().style() == QFont::StyleNormal};
     // Level by level, so that a frame never runs over what is inside it.
     std::deque<const std::list<sInspectorElement>*> lists{&m_lElements};
     for (; !lists.empty(); lists.pop_front())
@@ -64,14 +78,17 @@ void CQTInspectorView::paintEvent(QPaintEvent* event)
     }
 }
 
-void CQTInspectorView::PaintLabel(QPainter& painter, const QRect& exposed,
+void CQTInspectorView::PaintLabel(QPainter& painter, const sExposed& exposed,
                                   const sInspectorElement& row)
 {
-    if (row.m_sName.empty())
+    const long long top = static_cast<long long>(row.m_iY) - m_pScrollBar->value();
+    if (row.m_sName.empty() || IsAboveOrBelow(top, row.m_iHeight, exposed.m_rectAround))
         return;
-    const QRectF rect(row.m_iX, qreal(row.m_iY) - m_pScrollBar->value(), row.m_iLabelWidth,
-                      row.m_iHeight);
-    if (!MayShow(rect, exposed))
+    const QRectF rect(row.m_iX, static_cast<qreal>(top), row.m_iLabelWidth, row.m_iHeight);
+    if (!MayShow(rect, exposed.m_rectAround))
+        return;
+    if (exposed.m_bUpright && !rect.isEmpty() && !rect.intersects(exposed.m_rect) &&
+        IsPlain(row.m_sName))
         return;
     QString text = ToQString(row.m_sName);
     if (m_bPreview)
@@ -79,14 +96,14 @@ void CQTInspectorView::PaintLabel(QPainter& painter, const QRect& exposed,
     painter.drawText(rect, g_iLabelFlags, text);
 }
 
-void CQTInspectorView::PaintGroup(QPainter& painter, const QRect& exposed,
+void CQTInspectorView::PaintGroup(QPainter& painter, const sExposed& exposed,
                                   const sInspectorElement& group)
 {
     const int labelHeight = group.m_sName.empty() ? 0 : GetGroupLabelHeight();
     const int half = labelHeight / 2;
     const qreal top = qreal(group.m_iY) - m_pScrollBar->value();
     const QRectF frame(group.m_iX, top + half, group.m_iWidth, qreal(group.m_iHeight) - half);
-    if (MayShow(frame, exposed))
+    if (MayShow(frame, exposed.m_rectAround))
     {
         const QPen pen = painter.pen();
         painter.setPen(pen.color().darker(175));
@@ -98,7 +115,7 @@ void CQTInspectorView::PaintGroup(QPainter& painter, const QRect& exposed,
     const int left = GetGroupLeftMargin();
     const QRectF title(qreal(group.m_iX) + left, top,
                        qreal(group.m_iWidth) - left - GetGroupRightMargin(), labelHeight);
-    if (!MayShow(title, exposed))
+    if (!MayShow(title, exposed.m_rectAround))
         return;
     const Qt::BGMode mode = painter.backgroundMode();
     painter.setBackgroundMode(Qt::OpaqueMode);
