@@ -312,6 +312,8 @@ private:
     void AddStop(sInspectorHolder* holder);
     /// The controls in display order, empty containers included; what editing moves along.
     const std::vector<sInspectorHolder*>& GetStops();
+    /// Whether the widget has a place in the view and is alive.
+    bool IsShowing(CInspectorDataWidget* widget);
     /// The place of a widget among them: the first or the last, as the walk would meet it; the
     /// number of stops when it has none.
     std::size_t FindStop(CInspectorDataWidget* widget, bool first);

@@ -37,8 +37,10 @@ void CInspectorController::StartEditingAt(std::size_t place)
     if (!widget)
         return;
     const CFocusTarget target(*this, widget);
+    const bool isOwn = widget->m_pOwner == this;
     m_pView->EnsureVisible(widget);
-    // The view may belong to a host that rebuilds the panel while it scrolls.
-    if (target.GetWidget() && m_pView)
+    // The view may belong to a host that rebuilds the panel while it scrolls, be it this panel or
+    // that of another controller whose rows the view shows.
+    if (target.GetWidget() && m_pView && (isOwn || m_pView->IsShowing(widget)))
         widget->StartEditing();
 }

@@ -119,6 +119,8 @@ void CInspectorController::ClearAllData()
         const std::unique_ptr<sInspectorControllerData> record(m_lItems.front());
         UnlinkRow(m_lItems.begin());
         m_bClosed = true;
+        // What the host queued meanwhile, when a control that died ended the edit of another.
+        DropNotices(record.get());
         if (record->m_pElement)
             record->m_pElement->Disconnect();
         record->DeleteModel();

@@ -33,6 +33,12 @@ CInspectorView::sInspectorHolder* CInspectorView::GetHolderFromControl(CInspecto
     return entry == m_mapHolders.end() ? nullptr : entry->second;
 }
 
+bool CInspectorView::IsShowing(CInspectorDataWidget* widget)
+{
+    const sInspectorHolder* holder = GetHolderFromControl(widget);
+    return holder && holder->GetWidget();
+}
+
 void CInspectorView::ForgetWidget(CInspectorDataWidget* widget)
 {
     if (sInspectorHolder* holder = GetHolderFromControl(widget))

@@ -323,3 +323,27 @@ TEST_F(Reentrancy, TheViewMayDieWhereItAsksForARepaint)
                                            "controller.HandleDirtyItem(r0.data, null)",
                                            "controller.HandleDirtyItem(r1.data, null)"}));
 }
+
+TEST_F(Reentrancy, ANoticeQueuedByAControlThatIsClearedGoesWithItsRow)
+{
+    CRecordingController& controller = *m_host.m_pController;
+    auto* first = static_cast<CRecordingWidget*>(controller.RecordAt(0)->m_pWidget);
+    first->m_fnDestroyed = [this, &controller]
+    { controller.DirtifyItem(controller.m_lItems.back(), m_host.Notice("late")); };
+    m_host.m_log.Clear();
+    m_host.m_pController->ClearAllData();
+    EXPECT_EQ(m_host.m_log.Count("late.~"), 1u);
+    EXPECT_TRUE(m_host.m_pController->m_mapDirtyItems.empty());
+}
+
+TEST_F(Reentrancy, AControlOfAnotherPanelMayDieWhileItIsScrolledIntoSight)
+{
+    CRecordingController other(m_host.m_log);
+    other.SetInspectorView(m_host.m_pView.get());
+    m_host.m_pView->m_fnEnsureVisible = [this](CInspectorDataWidget*)
+    { m_host.m_pController->ClearAllData(); };
+    m_host.m_log.Clear();
+    other.GiveFocusToNextElement(nullptr);
+    EXPECT_EQ(m_host.m_log.Count("StartEditing"), 0u);
+    EXPECT_TRUE(m_host.m_pController->m_lItems.empty());
+}
