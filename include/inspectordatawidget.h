@@ -73,6 +73,10 @@ public:
     virtual void Hide() = 0;
 
 protected:
+    /// Takes the widget out of its row, whose element goes on without it, and out of its place in
+    /// the view. The destructor does it; one that calls the host on its way does it first.
+    void LeaveRow();
+
     /// The element that is shown; null until the widget is bound and once the element is destroyed.
     CInspectorDataElement* m_pElement = nullptr;
 

@@ -7,6 +7,7 @@
 
 #include <string>
 
+class CFocusMove;
 class CSimpleDataElement;
 
 /// A text box of several lines for a CSimpleDataElement. It can always be typed into; the text
@@ -44,7 +45,11 @@ protected:
     CSimpleDataElement* GetSafeData();
 
 private:
+    friend class CFocusMove;
+
     /// The last text that the box could not show as it is, and what it shows instead.
     std::string m_sOriginal;
     QString m_sShown;
+    /// The box outlives its row because the toolkit is at work on it: nobody is told anything.
+    bool m_bRowGone = false;
 };

@@ -4,10 +4,13 @@
 #include <inspectordatawidget.h>
 
 #include "focustarget.h"
+#include "takeover.h"
 #include "walk.h"
 
 #include <algorithm>
 #include <utility>
+
+bool (*g_pfnTakeOver)(CInspectorDataWidget& widget) = nullptr;
 
 // The records of the rows, and how they are found without walking along all of them.
 
@@ -30,9 +33,14 @@ void CInspectorController::sInspectorControllerData::DeleteModel()
 
 void CInspectorController::sInspectorControllerData::DeleteWidget()
 {
-    if (m_pWidget)
-        m_pWidget->m_pOwner = nullptr;
-    delete std::exchange(m_pWidget, nullptr);
+    CInspectorDataWidget* widget = std::exchange(m_pWidget, nullptr);
+    if (!widget)
+        return;
+    widget->m_pOwner = nullptr;
+    if (!g_pfnTakeOver || !g_pfnTakeOver(*widget))
+        delete widget;
+    else
+        widget->LeaveRow();
 }
 
 void CInspectorController::IndexRow(CRows::iterator row)

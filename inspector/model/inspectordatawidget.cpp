@@ -3,6 +3,8 @@
 #include <inspectorcontroller.h>
 #include <inspectorview.h>
 
+#include <utility>
+
 CInspectorDataWidget::sValueChangeInfo::~sValueChangeInfo() = default;
 CInspectorDataWidget::sTopoChangeInfo::~sTopoChangeInfo() = default;
 
@@ -23,10 +25,18 @@ CInspectorDataWidget& CInspectorDataWidget::operator=(const CInspectorDataWidget
 
 CInspectorDataWidget::~CInspectorDataWidget()
 {
-    if (m_pOwner)
-        m_pOwner->ForgetWidget(this);
-    if (m_pView)
-        m_pView->ForgetWidget(this);
+    LeaveRow();
+}
+
+void CInspectorDataWidget::LeaveRow()
+{
+    if (CInspectorController* owner = std::exchange(m_pOwner, nullptr))
+    {
+        owner->ForgetWidget(this);
+        m_pElement = nullptr;
+    }
+    if (CInspectorView* view = std::exchange(m_pView, nullptr))
+        view->ForgetWidget(this);
 }
 
 void CInspectorDataWidget::SetDataElement(CInspectorDataElement* element)

@@ -3,6 +3,7 @@
 #include <inplaceeditsink.h>
 #include <qtsimpledatawidget.h>
 
+#include "focusmove.h"
 #include "inuse.h"
 #include "text.h"
 
@@ -97,8 +98,12 @@ void CInPlaceEdit::StartEditing(QWidget& owner, const QRect& area)
 {
     const CInUse inUse(m_iInUse);
     EndEditing();
+    const unsigned edit = ++m_uiEdit;
     m_Placement.Show(
         owner, QRect(owner.mapToGlobal(area.topLeft()), owner.mapToGlobal(area.bottomRight())));
+    // The control that lost the focus may have made the host start another edit.
+    if (edit != m_uiEdit)
+        return;
     m_bEditing = true;
     setFocus(Qt::OtherFocusReason);
     selectAll();
@@ -118,7 +123,7 @@ void CInPlaceEdit::HideSilently()
 void CInPlaceEdit::Dispose()
 {
     m_pSink = nullptr;
-    if (m_iInUse == 0)
+    if (m_iInUse == 0 && !CFocusMove::IsHolding(*this))
     {
         delete this;
         return;
@@ -185,6 +190,7 @@ bool CInPlaceEdit::EndWith(eCause cause)
 
 bool CInPlaceEdit::LoseFocus(QFocusEvent& event)
 {
+    const CFocusMove moving(*this);
     // In a window of the host, the focus can go elsewhere without a deactivation.
     const bool isLeft = !isWindow() && event.reason() != Qt::PopupFocusReason;
     if (isLeft)

@@ -61,6 +61,7 @@ private:
     IInPlaceEditSink* m_pSink = nullptr;
     bool m_bEditing = false;
     bool m_bMakingRoom = false;
+    unsigned m_uiEdit = 0; ///< which edit the editor was shown for last
     int m_iCause = CInspectorDataElement::eEndEditFocusLost;
     QString m_sComposition; ///< what an input method is still composing
     int m_iInUse = 0;

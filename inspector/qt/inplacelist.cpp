@@ -2,6 +2,7 @@
 
 #include <inplaceeditsink.h>
 
+#include "focusmove.h"
 #include "inuse.h"
 #include "text.h"
 
@@ -32,7 +33,7 @@ std::shared_ptr<CInPlaceList> CInPlaceList::Create()
 void CInPlaceList::Dispose(CInPlaceList* list)
 {
     list->m_pSink = nullptr;
-    if (list->m_iInUse == 0)
+    if (list->m_iInUse == 0 && !CFocusMove::IsHolding(*list))
     {
         delete list;
         return;
@@ -80,11 +81,14 @@ void CInPlaceList::Start(QWidget& owner, const QRect& area, const char* value)
 {
     const CInUse inUse(m_iInUse);
     EndChoice();
-    ++m_uiChoice;
+    const unsigned choice = ++m_uiChoice;
     m_sCurrent = ToQString(value);
     m_sStart = m_sCurrent;
     SelectRowOf(m_sCurrent);
     m_Placement.Show(owner, CEditorPlacement::ListRect(owner, area, WantedHeight()));
+    // The control that lost the focus may have made the host drop the list down elsewhere.
+    if (choice != m_uiChoice)
+        return;
     m_bOpen = true;
     setFocus(Qt::OtherFocusReason);
 }
@@ -114,7 +118,7 @@ int CInPlaceList::WantedHeight() const
 
 void CInPlaceList::EndChoice()
 {
-    if (!m_bOpen || m_uiEnding == m_uiChoice)
+    if (!IsOpen())
         return;
     const CInUse inUse(m_iInUse);
     const unsigned choice = m_uiChoice;

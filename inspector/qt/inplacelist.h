@@ -40,6 +40,9 @@ public:
     /// chosen.
     void Start(QWidget& owner, const QRect& area, const char* value);
 
+    /// True while there is a choice that can still be ended.
+    bool IsOpen() const { return m_bOpen && m_uiEnding != m_uiChoice; }
+
     /// Reports an open choice and closes the list.
     void EndChoice();
 

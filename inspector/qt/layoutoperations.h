@@ -2,6 +2,16 @@
 
 #include "panelrepaint.h"
 
+#include <algorithm>
+
+/// The nearest place at which a rectangle of any size that Qt allows still has all its corners in
+/// 32 bits, also when it is mapped to the screen. No difference can be seen: both are out of sight.
+inline QPoint ReachablePlace(int x, int y)
+{
+    constexpr int farthest = 1 << 30;
+    return {std::clamp(x, -farthest, farthest), std::clamp(y, -farthest, farthest)};
+}
+
 /// The layout operations of a data widget, which all forward to its Qt base.
 #define INSPECTOR_LAYOUT_OPERATIONS(Widget)                                                        \
     void Widget::ResizeWidget(int width, int height)                                               \
@@ -10,7 +20,7 @@
     }                                                                                              \
     void Widget::MoveWidget(int x, int y)                                                          \
     {                                                                                              \
-        MoveControl(*this, QPoint(x, y));                                                          \
+        MoveControl(*this, ReachablePlace(x, y));                                                  \
     }                                                                                              \
     void Widget::Show()                                                                            \
     {                                                                                              \

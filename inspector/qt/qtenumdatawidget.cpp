@@ -4,6 +4,7 @@
 
 #include "inplacelist.h"
 #include "layoutoperations.h"
+#include "showablearea.h"
 #include "sortentries.h"
 #include "text.h"
 
@@ -28,6 +29,11 @@ CQTEnumDataWidget::CQTEnumDataWidget()
 
 CQTEnumDataWidget::~CQTEnumDataWidget()
 {
+    // The end of a choice calls the host, who may neither find this widget in its row any more nor
+    // destroy it a second time together with its parent.
+    LeaveRow();
+    if (m_pInPlaceList->IsOpen())
+        setParent(nullptr);
     // Without its list the widget is known to be dying: a choice that ends now finds no element.
     std::shared_ptr<CInPlaceList> list = std::move(m_pInPlaceList);
     list->SetSink(nullptr);
@@ -116,7 +122,7 @@ void CQTEnumDataWidget::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.fillRect(0, 0, width(), height(), palette().color(QPalette::Base));
     QStyleOptionComboBox option;
-    option.rect = rect();
+    option.rect = ShowableArea(*this);
     option.state = QStyle::State_Enabled;
     QApplication::style()->drawComplexControl(QStyle::CC_ComboBox, &option, &painter, nullptr);
     CEnumDataElement* element = GetSafeEnumData();
@@ -139,7 +145,7 @@ void CQTEnumDataWidget::mousePressEvent(QMouseEvent* event)
         return;
     // A choice of another widget ends first, and its host may remove this one.
     const QPointer<CQTEnumDataWidget> self(this);
-    const std::shared_ptr<CInPlaceList> list = m_pInPlaceList;
+    CInPlaceList* list = m_pInPlaceList.get();
     if (!list->MakeRoom() || !self || !hasDefinition())
         return;
     list->SetSink(this);
@@ -147,5 +153,5 @@ void CQTEnumDataWidget::mousePressEvent(QMouseEvent* event)
     for (const auto& [value, label] :
          SortedEntries(GetSafeEnumData()->GetDefinition()->m_vEntries, m_iSortingMethod))
         list->AddEntry(value.c_str(), label.c_str());
-    list->Start(*this, rect(), ToNarrow(m_sText).c_str());
+    list->Start(*this, ShowableArea(*this), ToNarrow(m_sText).c_str());
 }

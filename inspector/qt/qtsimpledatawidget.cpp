@@ -4,6 +4,7 @@
 
 #include "inplaceedit.h"
 #include "layoutoperations.h"
+#include "showablearea.h"
 #include "text.h"
 
 #include <QMouseEvent>
@@ -57,7 +58,7 @@ void CQTSimpleDataWidget::StartEditing()
     editor.SetSink(this);
     editor.SetStartText(ToNarrow(m_sText).c_str());
     editor.setReadOnly(element->IsReadOnly());
-    editor.StartEditing(*this, rect());
+    editor.StartEditing(*this, ShowableArea(*this));
 }
 
 void CQTSimpleDataWidget::OnValueChange(sValueChangeInfo*)

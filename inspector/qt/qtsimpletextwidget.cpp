@@ -2,6 +2,7 @@
 
 #include <simpledataelement.h>
 
+#include "focusmove.h"
 #include "layoutoperations.h"
 #include "text.h"
 
@@ -70,6 +71,9 @@ CSimpleDataElement* CQTSimpleTextWidget::GetSafeData()
 
 void CQTSimpleTextWidget::focusOutEvent(QFocusEvent*)
 {
+    if (m_bRowGone)
+        return;
+    const CFocusMove moving(*this);
     CSimpleDataElement* element = GetSafeData();
     assert(element && "CQTSimpleTextWidget::focusOutEvent: no text element is bound");
     // The host may remove this row when it learns of the change.

@@ -1,0 +1,29 @@
+#pragma once
+
+class CInspectorDataWidget;
+class QWidget;
+
+/// The time in which a text box or the line editor tells the host that it lost the focus.
+///
+/// The toolkit is at work then on what was left and on the widget and the window that get the
+/// keyboard next, and does not survive their death: what the host removes of them is deleted when
+/// the event is over.
+class CFocusMove
+{
+public:
+    explicit CFocusMove(const QWidget& left);
+    ~CFocusMove();
+    CFocusMove(const CFocusMove&) = delete;
+    CFocusMove& operator=(const CFocusMove&) = delete;
+
+    /// Whether the toolkit may be at work on the window of a shared editor: while the
+    /// focus moves, and as long as the window has the keyboard.
+    static bool IsHolding(const QWidget& editor);
+
+private:
+    static bool IsHolding(const QWidget* control, const QWidget* part);
+    static bool TakeOver(CInspectorDataWidget& widget);
+
+    const QWidget& m_rLeft;
+    const CFocusMove* const m_pOuter;
+};
