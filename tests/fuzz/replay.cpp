@@ -1,0 +1,30 @@
+// Runs a fuzz target over kept inputs, with any compiler. The folders of inputs are the arguments.
+
+#include <cstdint>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <vector>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+
+int main(int argc, char** argv)
+{
+    int inputs = 0;
+    for (int i = 1; i < argc; ++i)
+    {
+        for (const auto& entry : std::filesystem::directory_iterator(argv[i]))
+        {
+            std::ifstream file(entry.path(), std::ios::binary);
+            const std::vector<char> bytes{std::istreambuf_iterator<char>(file), {}};
+            std::printf("%s\n", entry.path().filename().c_str());
+            std::fflush(stdout);
+            LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()),
+                                   bytes.size());
+            ++inputs;
+        }
+    }
+    std::printf("%d inputs\n", inputs);
+    return inputs > 0 ? 0 : 1;
+}
