@@ -1,0 +1,122 @@
+// What the guide shows is what is compiled and run elsewhere, and its links lead somewhere.
+#include "markdown.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+
+namespace fs = std::filesystem;
+
+namespace
+{
+const fs::path root = INSPECTOR_SOURCES;
+
+std::vector<fs::path> Pages()
+{
+    std::vector<fs::path> pages;
+    for (const fs::path& folder : {root, root / "docs"})
+        for (const fs::directory_entry& entry : fs::directory_iterator(folder))
+            if (entry.path().extension() == ".md")
+                pages.push_back(entry.path());
+    std::sort(pages.begin(), pages.end());
+    return pages;
+}
+
+/// Files that the tests build, and build scripts that they run.
+std::vector<Lines> BuiltFiles(const std::string& language)
+{
+    std::vector<Lines> files;
+    for (const fs::path& folder :
+         {root / "examples", root / "tests/gallery", root / "tests/package"})
+        for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder))
+        {
+            const fs::path& path = entry.path();
+            const bool script = path.filename() == "CMakeLists.txt";
+            const bool source = path.extension() == ".cpp" || path.extension() == ".h";
+            if (language == "cmake" ? script : source)
+                files.push_back(ReadLines(path.string()));
+        }
+    return files;
+}
+
+std::string Text(const Lines& lines)
+{
+    std::string text;
+    for (const std::string& line : lines)
+        text += line + "\n";
+    return text;
+}
+} // namespace
+
+TEST(Guide, HasPages)
+{
+    EXPECT_GE(Pages().size(), 8u);
+}
+
+TEST(Guide, CutsEveryCodeBlockFromAFileThatIsBuilt)
+{
+    std::size_t checked = 0;
+    for (const std::string language : {"cpp", "cmake"})
+    {
+        const std::vector<Lines> files = BuiltFiles(language);
+        ASSERT_FALSE(files.empty());
+        for (const fs::path& page : Pages())
+            for (const CodeBlock& block : CodeBlocks(ReadLines(page.string())))
+            {
+                if (block.language != language)
+                    continue;
+                ++checked;
+                EXPECT_TRUE(std::any_of(files.begin(), files.end(),
+                                        [&](const Lines& file)
+                                        { return IsCutFrom(block.lines, file); }))
+                    << page << ":" << block.firstLine << " is in no file:\n"
+                    << Text(block.lines);
+            }
+    }
+    EXPECT_GE(checked, 10u);
+}
+
+TEST(Guide, NamesTheLanguageOfEveryBlockOfCode)
+{
+    for (const fs::path& page : Pages())
+        for (const CodeBlock& block : CodeBlocks(ReadLines(page.string())))
+            if (block.language.empty())
+            {
+                EXPECT_EQ(Text(block.lines).find("#include"), std::string::npos)
+                    << page << ":" << block.firstLine;
+            }
+}
+
+TEST(Guide, LinksOnlyToWhatExists)
+{
+    for (const fs::path& page : Pages())
+        for (const std::string& link : LocalLinks(ReadLines(page.string())))
+            EXPECT_TRUE(fs::exists(page.parent_path() / link)) << page << " links to " << link;
+}
+
+TEST(Markdown, FindsBlocksAndTheirLanguages)
+{
+    const auto blocks = CodeBlocks({"text", "```cpp", "int a;", "```", "```", "drawing", "```"});
+    ASSERT_EQ(blocks.size(), 2u);
+    EXPECT_EQ(blocks[0].language, "cpp");
+    EXPECT_EQ(blocks[0].lines, Lines{"int a;"});
+    EXPECT_EQ(blocks[0].firstLine, 3u);
+    EXPECT_EQ(blocks[1].language, "");
+}
+
+TEST(Markdown, FindsLinksOutsideOfBlocks)
+{
+    const Lines page = {"[a](a.md#part) and ![b](images/b.png)", "```", "[c](c.md)", "```",
+                        "[d](https://d.example/) [e](#here)"};
+    EXPECT_EQ(LocalLinks(page), (Lines{"a.md", "images/b.png"}));
+}
+
+TEST(Markdown, FindsABlockInAFileWhateverItsIndentation)
+{
+    const Lines file = {"{", "    a();", "    if (b)", "        c();", "}"};
+    EXPECT_TRUE(IsCutFrom({"a();", "if (b)", "    c();"}, file));
+    EXPECT_TRUE(IsCutFrom({"    if (b)", "        c();"}, file));
+    EXPECT_FALSE(IsCutFrom({"if (b)", "c();"}, file));
+    EXPECT_FALSE(IsCutFrom({"a();", "c();"}, file));
+}
