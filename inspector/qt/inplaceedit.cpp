@@ -152,6 +152,7 @@ bool CInPlaceEdit::event(QEvent* event)
     case QEvent::WindowActivate:
         // The line edit would drop the selection a little later unless it has the focus by then,
         // and it may be on its way from one field to the next.
+        // NOLINTNEXTLINE(bugprone-parent-virtual-call)
         return QWidget::event(event);
     case QEvent::WindowDeactivate:
         if (m_bEditing)
