@@ -3,10 +3,12 @@
 #include "droprect.h"
 #include "qtcompat.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QEvent>
-#include <QGuiApplication>
 #include <QWidget>
+#include <QWindow>
+
+#include <algorithm>
 
 namespace
 {
@@ -38,21 +40,32 @@ void CEditorPlacement::Show(QWidget& owner, const QRect& rect)
         FloatIn(*owner.window(), rect);
         return;
     }
+    m_pOwnerWindow = owner.window();
+    m_iOtherWindows = CountOtherWindows();
+    m_OutsidePress.Watch(nullptr);
     m_rEditor.setAttribute(Qt::WA_NoMousePropagation, false);
     m_rEditor.setWindowFlags(Qt::ToolTip);
     // After the flags, a change of which moves a window on platforms that count in its frame.
     m_rEditor.setGeometry(rect);
     m_rEditor.show();
     m_rEditor.activateWindow();
+    // Hidden and shown in one event, the window never lost the focus as far as the platform can
+    // tell. It will not tell again that the window has it.
+    if (QGuiApplication::focusWindow() == m_rEditor.windowHandle() && !m_rEditor.isActiveWindow())
+    {
+        TakeAsActive(m_rEditor);
+        m_OutsidePress.ExpectFallback(*m_pOwnerWindow);
+    }
 }
 
 void CEditorPlacement::FloatIn(QWidget& window, const QRect& rect)
 {
+    m_pOwnerWindow = nullptr;
     m_pFocusBefore = window.focusWidget();
     // What the editor ignores must not reach the window below it, as it would not from a window of
     // its own.
     m_rEditor.setAttribute(Qt::WA_NoMousePropagation);
-    m_OutsidePress.Watch(window);
+    m_OutsidePress.Watch(&window);
     m_rEditor.setParent(&window, Qt::Widget);
     m_rEditor.setGeometry(QRect(window.mapFromGlobal(rect.topLeft()), rect.size()));
     m_rEditor.show();
@@ -85,4 +98,21 @@ void CEditorPlacement::Hide()
     m_rEditor.setParent(nullptr);
     if (hadFocus && m_pFocusBefore)
         m_pFocusBefore->setFocus(Qt::OtherFocusReason);
+}
+
+void CEditorPlacement::ReturnKeyboard()
+{
+    // X servers and window managers leave the keyboard to nobody when a tool-tip window that had it
+    // is hidden.
+    if (m_pOwnerWindow && m_pOwnerWindow->isVisible() && !m_rEditor.isVisible() &&
+        CountOtherWindows() <= m_iOtherWindows)
+        m_pOwnerWindow->activateWindow();
+}
+
+int CEditorPlacement::CountOtherWindows() const
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return static_cast<int>(std::count_if(windows.begin(), windows.end(),
+                                          [this](const QWidget* window)
+                                          { return window != &m_rEditor && window->isVisible(); }));
 }

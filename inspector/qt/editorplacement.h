@@ -25,14 +25,21 @@ public:
     /// list that floats in a window is kept in it as others are on the desktop, and cut to it.
     static QRect ListRect(const QWidget& owner, const QRect& area, int wantedHeight);
 
-    /// Hides the editor. The owner's window has the keyboard again, at the place that had it
-    /// before, and the editor is nobody's child.
+    /// Hides the editor, which is nobody's child then. In a window that it floated in, the place
+    /// that had the focus before has it again.
     void Hide();
+
+    /// The user ended the edit by a key or a choice: after a tool-tip window, the owner's window
+    /// gets the keyboard back, unless the editor was shown again or the host opened a window.
+    void ReturnKeyboard();
 
 private:
     void FloatIn(QWidget& window, const QRect& rect);
+    int CountOtherWindows() const;
 
     QWidget& m_rEditor;
     QPointer<QWidget> m_pFocusBefore;
+    QPointer<QWidget> m_pOwnerWindow; ///< of a tool-tip window
+    int m_iOtherWindows = 0;
     COutsidePress m_OutsidePress;
 };

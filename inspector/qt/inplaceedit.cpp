@@ -162,6 +162,14 @@ bool CInPlaceEdit::event(QEvent* event)
         // What is typed here belongs to the value, never to a shortcut of the host.
         event->accept();
         return true;
+    case QEvent::FocusIn:
+        QLineEdit::event(event);
+        // A value that nothing was typed over yet is still replaced as a whole, wherever the
+        // keyboard was in between.
+        if (m_bEditing && !isModified() &&
+            static_cast<QFocusEvent*>(event)->reason() == Qt::ActiveWindowFocusReason)
+            selectAll();
+        return true;
     case QEvent::FocusOut:
         return LoseFocus(*static_cast<QFocusEvent*>(event));
     case QEvent::InputMethod:
@@ -186,6 +194,8 @@ bool CInPlaceEdit::EndWith(eCause cause)
     if (cause == CInspectorDataElement::eEndEditCancel)
         setText(m_sStart);
     Q_EMIT editingFinished();
+    if (cause != CInspectorDataElement::eEndEditFocusLost)
+        m_Placement.ReturnKeyboard();
     return true;
 }
 

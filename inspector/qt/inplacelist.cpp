@@ -147,6 +147,7 @@ void CInPlaceList::OnItemClicked(QListWidgetItem* item)
     m_sCurrent = value.toString();
     m_sStart = m_sCurrent;
     EndChoice();
+    m_Placement.ReturnKeyboard();
 }
 
 bool CInPlaceList::event(QEvent* event)
@@ -158,9 +159,11 @@ bool CInPlaceList::event(QEvent* event)
     switch (event->type())
     {
     case QEvent::KeyPress:
-        return CancelWith(static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape
-                              ? CInspectorDataElement::eEndEditCancel
-                              : CInspectorDataElement::eEndEditFocusLost);
+        CancelWith(static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape
+                       ? CInspectorDataElement::eEndEditCancel
+                       : CInspectorDataElement::eEndEditFocusLost);
+        m_Placement.ReturnKeyboard();
+        return true;
     case QEvent::WindowDeactivate:
         return CancelWith(CInspectorDataElement::eEndEditFocusLost);
     case QEvent::FocusOut:

@@ -4,38 +4,61 @@
 
 #include <QApplication>
 #include <QMouseEvent>
-#include <QPointer>
 #include <QWidget>
 #include <QWindow>
+
+namespace
+{
+
+/// How long a window manager may take, in milliseconds.
+constexpr int g_iFallbackTime = 500;
+
+} // namespace
 
 COutsidePress::COutsidePress(QWidget& editor) : m_rEditor(editor)
 {
 }
 
-void COutsidePress::Watch(QWidget& window)
+void COutsidePress::Watch(QWidget* window)
 {
     Stop();
-    m_pWindow = &window;
-    connect(&window, SIGNAL(destroyed()), SLOT(OnWindowDestroyed()));
+    m_bWatching = true;
+    m_pWindow = window;
+    if (window)
+        connect(window, SIGNAL(destroyed()), SLOT(OnWindowDestroyed()));
     qApp->installEventFilter(this);
 }
 
 void COutsidePress::Stop()
 {
-    if (!m_pWindow)
+    if (!m_bWatching)
         return;
+    m_bWatching = false;
     qApp->removeEventFilter(this);
-    disconnect(m_pWindow, nullptr, this, nullptr);
+    if (m_pWindow)
+        disconnect(m_pWindow, nullptr, this, nullptr);
     m_pWindow = nullptr;
+    m_pFallback = nullptr;
+}
+
+void COutsidePress::ExpectFallback(QWidget& ownerWindow)
+{
+    m_pFallback = &ownerWindow;
+    m_SinceFallbackIsExpected.start();
 }
 
 bool COutsidePress::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Hide && watched == &m_rEditor)
+    if (event->type() == QEvent::Hide && watched == &m_rEditor && m_pWindow)
         LeaveLater();
     // A window that arranges its children, as a splitter does, must not arrange the editor.
     if (event->type() == QEvent::ChildAdded || event->type() == QEvent::ChildPolished)
         return static_cast<QChildEvent*>(event)->child() == &m_rEditor;
+    if (IsFallback(watched, *event))
+    {
+        QMetaObject::invokeMethod(this, "TakeKeyboardBack", Qt::QueuedConnection);
+        return true;
+    }
     if (!IsOutside(watched, *event))
         return false;
     // The report may make the host destroy whatever the event was for.
@@ -76,6 +99,23 @@ bool COutsidePress::IsOutside(const QObject* watched, const QEvent& event) const
     default:
         return false;
     }
+}
+
+bool COutsidePress::IsFallback(const QObject* watched, const QEvent& event) const
+{
+    if (event.type() != QEvent::WindowDeactivate && event.type() != QEvent::FocusOut)
+        return false;
+    if (watched != &m_rEditor || !m_pFallback)
+        return false;
+    const QWindow* focus = QGuiApplication::focusWindow();
+    return (!focus || focus == m_pFallback->windowHandle()) &&
+           !m_SinceFallbackIsExpected.hasExpired(g_iFallbackTime);
+}
+
+void COutsidePress::TakeKeyboardBack()
+{
+    if (m_bWatching && m_rEditor.isVisible())
+        m_rEditor.activateWindow();
 }
 
 bool COutsidePress::IsPartOfEditor(const QObject* object) const

@@ -1,12 +1,17 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QObject>
+#include <QPointer>
 
 class QWidget;
 
-/// Tells an editor that floats as a child in a window of the host when it is left: a press anywhere
-/// else, the deactivation or the closing of the window. The editor hears of it as it would as a
-/// window of its own, by QEvent::WindowDeactivate.
+/// Tells an editor when it is left: by a press anywhere else and, if it floats as a child in a
+/// window of the host, by the deactivation or the closing of that window. The editor hears of it as
+/// it does when its own window is deactivated, by QEvent::WindowDeactivate.
+///
+/// For a window of its own, a press elsewhere deactivates it too; but a platform that lets the
+/// press move the keyboard focus tells of the press first.
 class COutsidePress : public QObject
 {
     Q_OBJECT
@@ -14,20 +19,31 @@ class COutsidePress : public QObject
 public:
     explicit COutsidePress(QWidget& editor);
 
-    /// Watches from now on, all over the application.
-    void Watch(QWidget& window);
+    /// Watches from now on, all over the application. \p window is the one that the editor is about
+    /// to become a child of, or null.
+    void Watch(QWidget* window);
     void Stop();
+
+    /// The editor's own window was hidden and shown again in one go. A window manager that saw the
+    /// keyboard go to nobody gives it to the owner's window a moment later; the editor takes it
+    /// back then.
+    void ExpectFallback(QWidget& ownerWindow);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private Q_SLOTS:
     void OnWindowDestroyed();
+    void TakeKeyboardBack();
 
 private:
     bool IsPartOfEditor(const QObject* object) const;
     bool IsOutside(const QObject* watched, const QEvent& event) const;
+    bool IsFallback(const QObject* watched, const QEvent& event) const;
     void LeaveLater();
 
     QWidget& m_rEditor;
     QWidget* m_pWindow = nullptr;
+    bool m_bWatching = false;
+    QPointer<QWidget> m_pFallback;
+    QElapsedTimer m_SinceFallbackIsExpected;
 };

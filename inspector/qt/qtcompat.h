@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QMouseEvent>
 #include <QRect>
 #include <QScreen>
@@ -15,6 +15,15 @@ inline QPoint PressPosition(const QMouseEvent& event)
 #else
     return event.pos();
 #endif
+}
+
+/// Makes a window of the application the active one in the application's own eyes only.
+inline void TakeAsActive(QWidget& window)
+{
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED // from 6.5 on
+        QApplication::setActiveWindow(&window);
+    QT_WARNING_POP
 }
 
 /// The union of all screens, in global coordinates.

@@ -86,7 +86,7 @@ CHostWindow::CHostWindow()
       m_pController(std::make_unique<CController>(*this))
 {
     setWindowTitle(QStringLiteral("host"));
-    setFixedSize(500, 400);
+    resize(500, 400);
     m_pView->setParent(this);
     m_pView->move(20, 20);
     m_pCanvas->setGeometry(300, 20, 180, 360);
@@ -185,7 +185,13 @@ QScrollBar& CHostWindow::ScrollBar()
 
 void CHostWindow::keyPressEvent(QKeyEvent* event)
 {
-    Add("key " + QKeySequence(event->key()).toString().toStdString());
+    if (event->key() != Qt::Key_Shift && event->key() != Qt::Key_Control)
+        Add("key " + QKeySequence(event->key()).toString().toStdString());
+}
+
+void CHostWindow::mousePressEvent(QMouseEvent*)
+{
+    Add("press");
 }
 
 void CHostWindow::OnShortcut()

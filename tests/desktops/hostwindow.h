@@ -27,7 +27,7 @@ public:
     ~CHostWindow() override;
 
     /// The calls so far, which are forgotten: "a changed 12", "a ended 1", "command run",
-    /// "shortcut X", "key F5".
+    /// "shortcut X", "key F5", "press" for a press that no row and no editor took.
     CCalls TakeCalls();
     void Add(const std::string& call) { m_vCalls.push_back(call); }
 
@@ -49,6 +49,7 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
 
 private Q_SLOTS:
     void OnShortcut();

@@ -208,7 +208,7 @@ TEST_F(ChildEditor, EndsByAPressOnTheCanvas)
     Click(*m_pHost, "a");
     Type(*m_pHost, "12");
     Click(*m_pHost, m_pHost->Canvas().geometry().center());
-    EXPECT_EQ(m_pHost->TakeCalls(), CCalls({"a changed 12", "a ended 4"}));
+    EXPECT_EQ(m_pHost->TakeCalls(), CCalls({"a changed 12", "a ended 4", "press"}));
     EXPECT_TRUE(Editor().isHidden());
     EXPECT_TRUE(m_pHost->Canvas().hasFocus());
 }
@@ -218,7 +218,7 @@ TEST_F(ChildEditor, EndsByAPressThatOnlyAWidgetLearnsOf)
     Click(*m_pHost, "a");
     Type(*m_pHost, "12");
     QTest::mouseClick(&m_pHost->Canvas(), Qt::LeftButton);
-    EXPECT_EQ(m_pHost->TakeCalls(), CCalls({"a changed 12", "a ended 4"}));
+    EXPECT_EQ(m_pHost->TakeCalls(), CCalls({"a changed 12", "a ended 4", "press"}));
 }
 
 TEST_F(ChildEditor, EndsBeforeThePressOpensItForAnotherField)
@@ -384,7 +384,7 @@ TEST_F(ChildEditor, TakesWhatAnInputMethodIsComposing)
             Click(*m_pHost, m_pHost->Canvas().geometry().center());
     }
     EXPECT_EQ(m_pHost->TakeCalls(),
-              CCalls({"a changed k", "a ended 1", "a changed m", "a ended 4"}));
+              CCalls({"a changed k", "a ended 1", "a changed m", "a ended 4", "press"}));
 }
 
 TEST_F(ChildEditor, LetsTheHostRebuildThePanelUnderThePressThatEndsIt)
@@ -540,7 +540,7 @@ TEST_F(ChildList, ClosesByAPressElsewhere)
 {
     Click(*m_pHost, "d");
     Click(*m_pHost, m_pHost->Canvas().geometry().center());
-    EXPECT_EQ(m_pHost->TakeCalls(), CCalls({"d ended 4"}));
+    EXPECT_EQ(m_pHost->TakeCalls(), CCalls({"d ended 4", "press"}));
     EXPECT_TRUE(List().isHidden());
 }
 
