@@ -63,6 +63,7 @@ bool COutsidePress::eventFilter(QObject* watched, QEvent* event)
         return false;
     // The report may make the host destroy whatever the event was for.
     const QPointer<QObject> receiver(watched);
+    m_pFallback = nullptr;
     QEvent left(QEvent::WindowDeactivate);
     QCoreApplication::sendEvent(&m_rEditor, &left);
     if (receiver)
@@ -79,7 +80,7 @@ bool COutsidePress::IsOutside(const QObject* watched, const QEvent& event) const
     case QEvent::MouseButtonDblClick:
     {
         if (watched->isWidgetType())
-            return !IsPartOfEditor(watched);
+            return m_pWindow && !IsPartOfEditor(watched);
         // A window knows of a press before its widgets do. Once one of them is on its way to the
         // keyboard focus it must not be destroyed any more, so this is the time to report.
         const auto* window = qobject_cast<const QWindow*>(watched);
@@ -92,7 +93,7 @@ bool COutsidePress::IsOutside(const QObject* watched, const QEvent& event) const
     }
     case QEvent::TouchBegin:
     case QEvent::TabletPress:
-        return watched->isWidgetType() && !IsPartOfEditor(watched);
+        return m_pWindow && watched->isWidgetType() && !IsPartOfEditor(watched);
     case QEvent::WindowDeactivate:
     case QEvent::Close:
         return watched == m_pWindow;

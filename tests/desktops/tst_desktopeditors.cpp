@@ -306,6 +306,9 @@ TEST_F(DesktopEditors, LoseNothingToTheContextMenu)
     {
         // The menu had the keyboard, which does not go back to the editor.
         ExpectCalls({"a changed 12", "a ended 4"});
+        // KWin sends the keys to the host's window, which the toolkit goes on to call inactive.
+        if (CDesktopInput::Desktop() == "kwin")
+            return;
     }
     else
     {
