@@ -16,6 +16,13 @@ bool IsPaintedWithPanel(const QWidget& control)
            !control.autoFillBackground() && !control.internalWinId() && !control.graphicsEffect();
 }
 
+/// A widget's area in its own coordinates; its width and height may be more than the toolkit's own
+/// rectangle can tell.
+QRect AreaOf(const QWidget& widget)
+{
+    return QRect(QPoint(0, 0), widget.geometry().bottomRight() - widget.pos());
+}
+
 /// Takes a control out of the toolkit's view while its geometry changes: everything happens as
 /// always, but no part of the screen is marked for a repaint.
 class CUnseen
@@ -68,7 +75,7 @@ bool CPaintAhead::Covers(const QWidget& control) const
 {
     if (control.parentWidget() != m_pContent || !IsPaintedWithPanel(control))
         return false;
-    const QRect seen = control.geometry() & m_pContent->rect();
+    const QRect seen = control.geometry() & AreaOf(*m_pContent);
     return (QRegion(seen) - m_region).isEmpty();
 }
 
@@ -97,8 +104,8 @@ void ResizeControl(QWidget& control, const QSize& size)
 void RepaintControl(QWidget& control)
 {
     const QWidget* content = control.isWindow() ? nullptr : control.parentWidget();
-    const bool isCut = content && !control.graphicsEffect() &&
-                       !content->rect().intersects(control.geometry());
+    const bool isCut =
+        content && !control.graphicsEffect() && !AreaOf(*content).intersects(control.geometry());
     if (!isCut && !(g_pPaintAhead && g_pPaintAhead->Covers(control)))
         control.update();
 }
