@@ -30,6 +30,10 @@ bool IsKnown(const QString& message)
     // The offscreen platform says so whenever a tool-tip window is shown.
     if (message == QStringLiteral("This plugin does not support raise()"))
         return true;
+    // Qt 5 hears late that a window which it gave the keyboard to was hidden meanwhile.
+    if (message.startsWith(QStringLiteral("QXcbConnection: XCB error: 8 (BadMatch)")) &&
+        message.contains(QStringLiteral("(SetInputFocus)")))
+        return true;
     const std::lock_guard<std::mutex> lock(g_mutex);
     bool known = false;
     for (sKnownWarning& warning : g_vKnown)
