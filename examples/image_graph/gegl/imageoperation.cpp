@@ -194,6 +194,25 @@ void CImageOperation::Reset()
     CopyProperties(fresh->m_pNode, m_pNode);
 }
 
+CImageValue CImageOperation::GetValue(const sImageProperty& property) const
+{
+    CGValue value(FindSpec(m_pNode, property)->value_type);
+    gegl_node_get_property(m_pNode, property.m_sName.c_str(), value.Get());
+    return CImageValue(*value.Get());
+}
+
+void CImageOperation::SetValue(const sImageProperty& property, const CImageValue& value)
+{
+    gegl_node_set_property(m_pNode, property.m_sName.c_str(), value.Get());
+}
+
+std::unique_ptr<CImageOperation> CImageOperation::Copy() const
+{
+    std::unique_ptr<CImageOperation> copy = Create(m_info.m_sName);
+    copy->ReadFrom(m_pNode);
+    return copy;
+}
+
 void CImageOperation::ReadFrom(GeglNode* node)
 {
     CopyProperties(node, m_pNode);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "imageproperty.h"
+#include "imagevalue.h"
 
 #include <array>
 #include <memory>
@@ -39,6 +40,12 @@ public:
 
     /// Gives every property the value that a new operation has.
     void Reset();
+
+    /// A value of any kind as it is, to be put back later.
+    CImageValue GetValue(const sImageProperty& property) const;
+    void SetValue(const sImageProperty& property, const CImageValue& value);
+    /// Another operation of the kind, with the same values.
+    std::unique_ptr<CImageOperation> Copy() const;
 
     /// For the sources of this folder: copies all values that can be copied.
     void ReadFrom(GeglNode* node);

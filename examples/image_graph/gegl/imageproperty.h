@@ -42,6 +42,8 @@ struct sOperationInfo
     bool m_bHasInput = false;
     bool m_bHasAux = false;
     bool m_bHasOutput = false;
+    /// The inputs that take a picture: "input", "aux", both in this order, or none.
+    std::vector<std::string> m_vInputs;
     bool m_bForPrograms = false;  ///< makes sense only when a program feeds it
     bool m_bNeedsItsFile = false; ///< ends the program when its file does not exist
     std::vector<sImageProperty> m_vProperties;

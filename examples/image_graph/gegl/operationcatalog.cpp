@@ -51,6 +51,10 @@ sOperationInfo ReadOperation(const std::string& name)
     info.m_bHasInput = gegl_node_has_pad(node, "input");
     info.m_bHasAux = gegl_node_has_pad(node, "aux");
     info.m_bHasOutput = gegl_node_has_pad(node, "output");
+    if (info.m_bHasInput)
+        info.m_vInputs.emplace_back("input");
+    if (info.m_bHasAux)
+        info.m_vInputs.emplace_back("aux");
     for (sImageProperty& property : info.m_vProperties)
         property.m_bSavesFile = property.m_eKind == ePropertyFile && !info.m_bHasOutput;
     return info;

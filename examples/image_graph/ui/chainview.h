@@ -1,6 +1,6 @@
 #pragma once
 
-#include "../graphdocument.h"
+#include "../chain/graphdocument.h"
 
 #include <QWidget>
 

@@ -1,6 +1,6 @@
 #include "mainwindow.h"
 
-#include "../inspector/inspectorpanel.h"
+#include "../chain/inspector/inspectorpanel.h"
 #include "chainview.h"
 #include "operationpalette.h"
 #include "pictureview.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "../graphdocument.h"
-#include "../renderer.h"
+#include "../chain/graphdocument.h"
+#include "../chain/renderer.h"
 
 #include <QMainWindow>
 

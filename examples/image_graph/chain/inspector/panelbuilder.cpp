@@ -14,7 +14,7 @@
 #include <QFontMetrics>
 #include <QWidget>
 
-#include "../gegl/numbertext.h"
+#include "gegl/numbertext.h"
 
 namespace
 {

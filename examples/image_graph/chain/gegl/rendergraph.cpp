@@ -1,6 +1,6 @@
 #include "rendergraph.h"
 
-#include "geglsession.h"
+#include <gegl/geglsession.h>
 
 #include <gegl.h>
 

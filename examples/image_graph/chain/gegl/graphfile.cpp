@@ -1,9 +1,9 @@
 #include "graphfile.h"
 
-#include "geglhandle.h"
-#include "geglsession.h"
-#include "graphcheck.h"
-#include "operationcatalog.h"
+#include <gegl/geglhandle.h>
+#include <gegl/geglsession.h>
+#include <gegl/graphcheck.h>
+#include <gegl/operationcatalog.h>
 #include "rendergraph.h"
 
 #include <gegl.h>
