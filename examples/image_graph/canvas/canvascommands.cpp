@@ -215,6 +215,23 @@ void CCanvasCommands::SelectUpstream()
             m_scene.FindNode(feeding)->setSelected(true);
 }
 
+int CCanvasCommands::SelectNext(int step)
+{
+    std::vector<int> nodes;
+    for (const auto& [id, item] : m_scene.GetNodeItems())
+        nodes.push_back(id);
+    if (nodes.empty())
+        return 0;
+    const std::vector<int> selected = m_scene.GetSelectedNodes();
+    const int count = int(nodes.size());
+    int at = step > 0 ? -1 : count;
+    if (!selected.empty())
+        at = int(std::find(nodes.begin(), nodes.end(), selected.front()) - nodes.begin());
+    const int node = nodes[size_t((at + step + count) % count)];
+    m_scene.SelectNodes({node});
+    return node;
+}
+
 void CCanvasCommands::LayOut()
 {
     m_document.Move(FindPlaces(m_scene.GetGraph()));

@@ -32,6 +32,9 @@ public:
     void SelectAll();
     /// Selects also all that the pictures of the selected nodes are made of.
     void SelectUpstream();
+    /// Selects the node after the selected one, by number, or the one before it; at the ends, goes
+    /// on at the other. Returns its number, 0 when there are no nodes.
+    int SelectNext(int step);
     /// Gives all nodes the places that auto-layout finds.
     void LayOut();
 

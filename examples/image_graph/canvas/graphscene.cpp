@@ -113,12 +113,12 @@ QRectF CGraphScene::GetFrameOfNodes() const
     return frame;
 }
 
-void CGraphScene::SetStatus(int node, eNodeStatus status, const QString& text)
+void CGraphScene::SetState(int node, const sNodeState& state)
 {
     CNodeItem* item = FindNode(node);
-    if (!item)
+    if (!item || item->GetState() == state)
         return;
-    item->SetStatus(status, text);
+    item->SetState(state);
     Q_EMIT NodesChanged();
 }
 

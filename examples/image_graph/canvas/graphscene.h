@@ -41,14 +41,14 @@ public:
 
     /// What surrounds all nodes; empty when there are none.
     QRectF GetFrameOfNodes() const;
-    void SetStatus(int node, eNodeStatus status, const QString& text);
+    void SetState(int node, const sNodeState& state);
 
     /// Leads all edges around the nodes again. Done by itself before the next painting after a
     /// change of the document.
     void LeadEdges();
 
 Q_SIGNALS:
-    /// The number, the pin or the status of a node changed, or there are other nodes.
+    /// The number, the pin or the state of a node changed, or there are other nodes.
     void NodesChanged();
     void NodeHovered(int node, bool isHovered);
     /// Nodes or edges were moved.

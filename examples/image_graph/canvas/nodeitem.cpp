@@ -77,10 +77,9 @@ void CNodeItem::SetViewed(bool viewed)
     update();
 }
 
-void CNodeItem::SetStatus(eNodeStatus status, const QString& text)
+void CNodeItem::SetState(const sNodeState& state)
 {
-    m_eStatus = status;
-    m_sStatusText = text;
+    m_state = state;
     update();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "../render/nodestate.h"
 #include "padref.h"
 
 #include <QGraphicsObject>
@@ -9,14 +10,6 @@
 #include <vector>
 
 struct sGraphNode;
-
-/// What a node tells about itself beside its parameters.
-enum eNodeStatus
-{
-    eNodeReady,
-    eNodeBusy, ///< its picture is being made
-    eNodeFaulty,
-};
 
 /// A node on the canvas: a title, the pads, and below the title a place for its parameters. Shows
 /// what it is told; changes nothing.
@@ -43,9 +36,8 @@ public:
     void SetPinned(bool pinned);
     bool IsPinned() const { return m_bPinned; }
     void SetViewed(bool viewed);
-    void SetStatus(eNodeStatus status, const QString& text);
-    eNodeStatus GetStatus() const { return m_eStatus; }
-    const QString& GetStatusText() const { return m_sStatusText; }
+    void SetState(const sNodeState& state);
+    const sNodeState& GetState() const { return m_state; }
     void SetConnected(const std::set<std::string>& pads);
     /// A pad that would be the end of the edge that is being dragged, and whether it may.
     void SetTarget(const sPadRef& pad, bool isAllowed);
@@ -80,8 +72,7 @@ private:
     bool m_bPinned = false;
     bool m_bViewed = false;
     bool m_bHovered = false;
-    eNodeStatus m_eStatus = eNodeReady;
-    QString m_sStatusText;
+    sNodeState m_state;
     std::set<std::string> m_vConnected; ///< inputs by name, the output as an empty text
     sPadRef m_target;
     bool m_bTargetAllowed = false;

@@ -63,10 +63,10 @@ void CNodeItem::PaintFrame(QPainter& painter) const
     painter.drawRoundedRect(StripArea(), 2, 2);
 
     QPen pen(g_colorOutline, 1);
-    if (m_eStatus == eNodeFaulty)
+    if (m_state.m_eState == eNodeError)
         pen = QPen(g_colorError, 1.5);
     if (isSelected())
-        pen = QPen(m_eStatus == eNodeFaulty ? g_colorError : g_colorAccent, 2.5);
+        pen = QPen(m_state.m_eState == eNodeError ? g_colorError : g_colorAccent, 2.5);
     painter.setPen(pen);
     painter.setBrush(Qt::NoBrush);
     painter.drawPath(outline);
@@ -81,9 +81,9 @@ void CNodeItem::PaintTexts(QPainter& painter) const
     DrawElided(painter, QRectF(left, 1, g_dWidth - left - icons, g_dTitleHeight - 2), m_sTitle);
 
     painter.setFont(FontOf(painter, g_iNameSize));
-    const bool isFaulty = m_eStatus == eNodeFaulty;
+    const bool isFaulty = m_state.m_eState == eNodeError;
     painter.setPen(isFaulty ? g_colorError : g_colorFaint);
-    DrawElided(painter, StripArea().adjusted(6, 0, -4, 0), isFaulty ? m_sStatusText : m_sName);
+    DrawElided(painter, StripArea().adjusted(6, 0, -4, 0), isFaulty ? m_state.m_sError : m_sName);
 
     // The main input needs no name. Edges come from the right.
     painter.setFont(FontOf(painter, g_iPadSize));
