@@ -98,12 +98,16 @@ TEST_F(CGraphTest, ShowsTheEndThatIsMadeOfMost)
     m_document.Connect(m_iBoard, m_iBlur, "input");
     EXPECT_EQ(m_document.GetViewed(), m_iBlur);
     m_document.Connect(m_iBlur, m_iSave, "input");
-    EXPECT_EQ(m_document.GetViewed(), m_iOver) << "a picture, not a file";
+    EXPECT_EQ(m_document.GetViewed(), m_iBlur) << "what the file will show";
+    EXPECT_EQ(Graph().GetPictureAt(m_iSave), m_iBlur);
     const QSignalSpy pictures(&m_document, &CGraphDocument::PictureChanged);
     m_document.View(m_iBoard);
     EXPECT_EQ(m_document.GetViewed(), m_iBoard);
     m_document.View(m_iBoard);
     EXPECT_EQ(pictures.count(), 1);
-    m_document.RemoveNodes({m_iBoard});
-    EXPECT_EQ(m_document.GetViewed(), m_iOver);
+    m_document.View(m_iSave);
+    EXPECT_EQ(m_document.GetViewed(), m_iBlur);
+    m_document.View(m_iOver);
+    m_document.RemoveNodes({m_iOver});
+    EXPECT_EQ(m_document.GetViewed(), m_iBlur);
 }

@@ -66,6 +66,15 @@ CImageOperation::CImageOperation(const sOperationInfo& info)
       m_pNode(gegl_node_new_child(m_pGraph, "operation", info.m_sName.c_str(), nullptr))
 {
     CQuietNode::Block(m_pNode);
+    for (const sImageProperty& property : info.m_vProperties)
+    {
+        if (!property.m_bOpensFile)
+            continue;
+        CGValue value(FindSpec(m_pNode, property)->value_type);
+        gegl_node_get_property(m_pNode, property.m_sName.c_str(), value.Get());
+        const gchar* path = g_value_get_string(value.Get());
+        m_mapPaths[&property] = path ? path : "";
+    }
 }
 
 CImageOperation::~CImageOperation()
@@ -75,6 +84,8 @@ CImageOperation::~CImageOperation()
 
 std::string CImageOperation::GetText(const sImageProperty& property) const
 {
+    if (property.m_bOpensFile)
+        return m_mapPaths.at(&property);
     GParamSpec* spec = FindSpec(m_pNode, property);
     CGValue value(spec->value_type);
     gegl_node_get_property(m_pNode, property.m_sName.c_str(), value.Get());
@@ -130,17 +141,17 @@ sWriteResult CImageOperation::SetText(const sImageProperty& property, const std:
         break;
     case ePropertyText:
     case ePropertyFile:
-        if (g_utf8_validate(text.c_str(), -1, nullptr))
-            g_value_set_string(value.Get(), text.c_str());
-        else
+        if (!g_utf8_validate(text.c_str(), -1, nullptr))
             result = Refuse(property.m_sLabel + ": the text is not valid UTF-8.");
+        else
+            g_value_set_string(value.Get(), text.c_str());
         break;
     case ePropertyColor:
     case ePropertyOther:
         return Refuse(property.m_sLabel + " is not edited as text.");
     }
     if (result.m_eOutcome != sWriteResult::eRefused)
-        gegl_node_set_property(m_pNode, property.m_sName.c_str(), value.Get());
+        SetValue(property, CImageValue(*value.Get()));
     return result;
 }
 
@@ -192,33 +203,55 @@ void CImageOperation::Reset()
 {
     const std::unique_ptr<CImageOperation> fresh = Create(m_info.m_sName);
     CopyProperties(fresh->m_pNode, m_pNode);
+    m_mapPaths = fresh->m_mapPaths;
 }
 
 CImageValue CImageOperation::GetValue(const sImageProperty& property) const
 {
     CGValue value(FindSpec(m_pNode, property)->value_type);
-    gegl_node_get_property(m_pNode, property.m_sName.c_str(), value.Get());
+    if (property.m_bOpensFile)
+        g_value_set_string(value.Get(), m_mapPaths.at(&property).c_str());
+    else
+        gegl_node_get_property(m_pNode, property.m_sName.c_str(), value.Get());
     return CImageValue(*value.Get());
 }
 
 void CImageOperation::SetValue(const sImageProperty& property, const CImageValue& value)
 {
-    gegl_node_set_property(m_pNode, property.m_sName.c_str(), value.Get());
+    if (property.m_bOpensFile)
+        m_mapPaths[&property] = g_value_get_string(value.Get());
+    else
+        gegl_node_set_property(m_pNode, property.m_sName.c_str(), value.Get());
 }
 
 std::unique_ptr<CImageOperation> CImageOperation::Copy() const
 {
     std::unique_ptr<CImageOperation> copy = Create(m_info.m_sName);
-    copy->ReadFrom(m_pNode);
+    CopyProperties(m_pNode, copy->m_pNode);
+    copy->m_mapPaths = m_mapPaths;
     return copy;
 }
 
 void CImageOperation::ReadFrom(GeglNode* node)
 {
     CopyProperties(node, m_pNode);
+    for (auto& [property, path] : m_mapPaths)
+    {
+        gchar* text = nullptr;
+        gegl_node_get(node, property->m_sName.c_str(), &text, nullptr);
+        path = text ? text : "";
+        g_free(text);
+    }
 }
 
 void CImageOperation::WriteTo(GeglNode* node) const
 {
     CopyProperties(m_pNode, node);
+}
+
+void CImageOperation::WritePathsTo(GeglNode* node) const
+{
+    for (const auto& [property, path] : m_mapPaths)
+        if (!path.empty())
+            gegl_node_set(node, property->m_sName.c_str(), path.c_str(), nullptr);
 }

@@ -4,6 +4,7 @@
 #include "imagevalue.h"
 
 #include <array>
+#include <map>
 #include <memory>
 #include <string>
 
@@ -47,9 +48,12 @@ public:
     /// Another operation of the kind, with the same values.
     std::unique_ptr<CImageOperation> Copy() const;
 
-    /// For the sources of this folder: copies all values that can be copied.
     void ReadFrom(GeglNode* node);
+    /// For the sources of this folder: copies all values that can be copied, but for the paths of
+    /// files.
     void WriteTo(GeglNode* node) const;
+    /// Tells a node its files, which it opens at once.
+    void WritePathsTo(GeglNode* node) const;
     GeglNode* GetNode() const { return m_pNode; }
 
 private:
@@ -58,4 +62,5 @@ private:
     const sOperationInfo& m_info;
     GeglNode* m_pGraph;
     GeglNode* m_pNode;
+    std::map<const sImageProperty*, std::string> m_mapPaths; ///< of what opens a file
 };

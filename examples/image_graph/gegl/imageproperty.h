@@ -30,6 +30,8 @@ struct sImageProperty
     bool m_bMultiLine = false;
     bool m_bReadOnly = false;
     bool m_bSavesFile = false; ///< the file of the path is written, not read
+    /// The operation opens what it is told as soon as it is told; only rendering may do that.
+    bool m_bOpensFile = false;
 };
 
 /// One operation that the library lists.

@@ -13,6 +13,8 @@ bool CanCopy(const GParamSpec* spec)
     const GParamFlags wanted = G_PARAM_READWRITE;
     if ((spec->flags & wanted) != wanted || (spec->flags & G_PARAM_CONSTRUCT_ONLY))
         return false;
+    if (GEGL_IS_PARAM_SPEC_FILE_PATH(spec) || GEGL_IS_PARAM_SPEC_URI(spec))
+        return false;
     return spec->value_type != G_TYPE_POINTER || GEGL_IS_PARAM_SPEC_FORMAT(spec);
 }
 

@@ -67,6 +67,7 @@ sImageProperty ReadProperty(const std::string& operation, GParamSpec* spec)
         property.m_eKind = ePropertyFile;
     else if (spec->value_type == G_TYPE_STRING)
         property.m_eKind = ePropertyText;
+    property.m_bOpensFile = GEGL_IS_PARAM_SPEC_FILE_PATH(spec) || GEGL_IS_PARAM_SPEC_URI(spec);
     property.m_bMultiLine = Key(operation, spec, "multiline") == "true";
     // What an operation only reports is writable all the same; its description tells.
     property.m_bReadOnly = !(spec->flags & G_PARAM_WRITABLE) ||

@@ -84,6 +84,15 @@ std::vector<int> CGraph::GetUpstream(int node) const
     return order;
 }
 
+int CGraph::GetPictureAt(int node) const
+{
+    const sGraphNode* found = Find(node);
+    if (!found || found->GetInfo().m_bHasOutput)
+        return found ? node : 0;
+    const sGraphEdge* edge = FindEdge(node, "input");
+    return edge ? edge->m_iFrom : 0;
+}
+
 bool CGraph::CanConnect(int from, int to, const std::string& pad, QString& reason) const
 {
     const sGraphNode* source = Find(from);

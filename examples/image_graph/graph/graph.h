@@ -54,6 +54,10 @@ public:
     /// The node and everything that its picture is made of, each once and before what it leads to.
     std::vector<int> GetUpstream(int node) const;
 
+    /// The node whose picture is seen at \p node: itself, or what leads to it when it only writes a
+    /// file; 0 when there is none.
+    int GetPictureAt(int node) const;
+
     /// False says why, for the user. An input that is taken may be connected: the new edge takes
     /// the place of the old one.
     bool CanConnect(int from, int to, const std::string& pad, QString& reason) const;

@@ -183,17 +183,17 @@ void CGraphDocument::View(int node)
 
 int CGraphDocument::GetViewed() const
 {
-    if (m_graph.Contains(m_iViewed))
-        return m_iViewed;
+    if (const int chosen = m_graph.GetPictureAt(m_iViewed))
+        return chosen;
     int best = 0;
     std::size_t size = 0;
     for (const int end : m_graph.GetEnds())
     {
-        // What only writes a file shows what comes to it.
-        const std::size_t count = m_graph.GetUpstream(end).size();
-        if (count > size && m_graph.Find(end)->GetInfo().m_bHasOutput)
+        const int picture = m_graph.GetPictureAt(end);
+        const std::size_t count = m_graph.GetUpstream(picture).size();
+        if (count > size)
         {
-            best = end;
+            best = picture;
             size = count;
         }
     }
@@ -266,16 +266,4 @@ QString CGraphDocument::NameOf(const std::vector<int>& nodes) const
     if (nodes.size() != 1)
         return tr("%1 Nodes").arg(nodes.size());
     return QString::fromStdString(m_graph.Find(nodes.front())->GetInfo().m_sTitle);
-}
-
-bool CGraphDocument::Load(const QString& path, QString& message)
-{
-    message = tr("%1 cannot be opened.").arg(path);
-    return false;
-}
-
-bool CGraphDocument::Save(const QString& path, QString& message)
-{
-    message = tr("%1 cannot be written.").arg(path);
-    return false;
 }

@@ -66,7 +66,8 @@ public:
     /// Whether a file was opened that does not say where all its nodes are.
     bool NeedsPlaces() const { return m_bNeedsPlaces; }
 
-    /// Shows the picture of that node; 0 shows that of the whole graph.
+    /// Shows the picture of that node, or what leads to it when it only writes a file; 0 shows that
+    /// of the whole graph.
     void View(int node);
     /// The node whose picture is shown: the one that was chosen last, as long as it is there, or
     /// the end that is made of the most nodes; 0 when the graph makes no picture.
@@ -100,6 +101,8 @@ private:
     void Apply(const sGraphChange& change);
     void Push(const QString& text, sGraphChange change, int drag = 0);
     void Replace(CGraph graph, const QString& path, bool needsPlaces);
+    /// The end whose picture a file shows: the viewed node or what it leads to; 0 for none.
+    int GetSavedEnd() const;
     /// "Blur" for one node, "3 Nodes" for several.
     QString NameOf(const std::vector<int>& nodes) const;
     /// The numbers of the list that are in the graph, each once.

@@ -28,7 +28,7 @@ void EscapeTexts(CImageOperation& operation)
         const std::string text = operation.GetText(property);
         const GPointer<gchar> escaped(g_markup_escape_text(text.c_str(), -1));
         if (text != escaped.get())
-            gegl_node_set(operation.GetNode(), property.m_sName.c_str(), escaped.get(), nullptr);
+            operation.SetText(property, escaped.get());
     }
 }
 
@@ -38,8 +38,7 @@ CGraphChain CopyEscaped(const CGraphChain& chain)
     for (const auto& item : chain)
     {
         auto copied = std::make_unique<sGraphItem>();
-        copied->m_pOperation = CImageOperation::Create(item->m_pOperation->GetInfo().m_sName);
-        copied->m_pOperation->ReadFrom(item->m_pOperation->GetNode());
+        copied->m_pOperation = item->m_pOperation->Copy();
         EscapeTexts(*copied->m_pOperation);
         copied->m_vBranch = CopyEscaped(item->m_vBranch);
         copy.push_back(std::move(copied));

@@ -74,6 +74,7 @@ GeglNode* CRenderGraph::AddChain(const CGraphChain& chain)
             continue;
         GeglNode* node = gegl_node_new_child(m_pRoot, "operation", info.m_sName.c_str(), nullptr);
         item->m_pOperation->WriteTo(node);
+        item->m_pOperation->WritePathsTo(node);
         GeglNode* branch = AddChain(item->m_vBranch);
         if (branch && info.m_bHasAux)
             gegl_node_connect_to(branch, "output", node, "aux");
