@@ -77,6 +77,19 @@ TEST(Guide, CutsEveryCodeBlockFromAFileThatIsBuilt)
     EXPECT_GE(checked, 10u);
 }
 
+TEST(Guide, GivesTheWholeOfTheFirstProgramStepByStep)
+{
+    Lines shown;
+    for (const CodeBlock& block :
+         CodeBlocks(ReadLines((root / "docs/getting-started.md").string())))
+        if (block.language == "cpp")
+            shown.insert(shown.end(), block.lines.begin(), block.lines.end());
+    Lines program = ReadLines((root / "examples/01-three-rows.cpp").string());
+    for (Lines* lines : {&shown, &program})
+        lines->erase(std::remove(lines->begin(), lines->end(), ""), lines->end());
+    EXPECT_EQ(Text(shown), Text(program));
+}
+
 TEST(Guide, NamesTheLanguageOfEveryBlockOfCode)
 {
     for (const fs::path& page : Pages())
@@ -86,6 +99,22 @@ TEST(Guide, NamesTheLanguageOfEveryBlockOfCode)
                 EXPECT_EQ(Text(block.lines).find("#include"), std::string::npos)
                     << page << ":" << block.firstLine;
             }
+}
+
+TEST(Guide, ShowsEveryPictureOfTheGallery)
+{
+    std::string shown;
+    for (const fs::path& page : Pages())
+        for (const std::string& link : LocalLinks(ReadLines(page.string())))
+            shown += fs::weakly_canonical(page.parent_path() / link).string() + "\n";
+    std::size_t pictures = 0;
+    for (const fs::directory_entry& entry : fs::directory_iterator(root / "docs/images/gallery"))
+    {
+        ++pictures;
+        EXPECT_NE(shown.find(fs::canonical(entry.path()).string() + "\n"), std::string::npos)
+            << entry.path();
+    }
+    EXPECT_GE(pictures, 10u);
 }
 
 TEST(Guide, LinksOnlyToWhatExists)

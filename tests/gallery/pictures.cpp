@@ -1,5 +1,7 @@
 #include "pictures.h"
 
+#include "layoutpictures.h"
+#include "openeditors.h"
 #include "samplepanel.h"
 
 #include <QApplication>
@@ -118,6 +120,17 @@ QImage Preview(int width)
     return panel.Draw();
 }
 
+QImage GettingStarted()
+{
+    CSamplePanel panel;
+    sNode* group = panel.Group("Circle");
+    panel.Text("Radius", "12.5", group);
+    panel.Text("Centre", "0, 0", group);
+    panel.Bool("Filled", true, group);
+    panel.m_View.ResizeInspector(300, -1);
+    return panel.Draw();
+}
+
 QImage Message()
 {
     CSamplePanel panel;
@@ -136,11 +149,21 @@ void PrepareGallery()
     font.setHintingPreference(QFont::PreferNoHinting);
     QApplication::setFont(font);
     QApplication::setPalette(LightPalette());
+    // An open editor is drawn with the panel that it floats in, and its cursor stands still.
+    qputenv("INSPECTOR_EDITOR", "child");
+    QApplication::setCursorFlashTime(0);
 }
 
 std::vector<sPicture> GalleryPictures()
 {
     return {
+        {QStringLiteral("getting-started"), GettingStarted},
+        {QStringLiteral("editor-open"), DrawOpenEditor},
+        {QStringLiteral("editor-open-dark"), [] { return DrawIn(DarkPalette(), DrawOpenEditor); }},
+        {QStringLiteral("list-open"), DrawOpenList},
+        {QStringLiteral("list-open-dark"), [] { return DrawIn(DarkPalette(), DrawOpenList); }},
+        {QStringLiteral("layout-group"), DrawGroupWithNumbers},
+        {QStringLiteral("layout-container"), DrawContainerWithNumbers},
         {QStringLiteral("controls"), [] { return Controls(1); }},
         {QStringLiteral("controls-dark"),
          [] { return DrawIn(DarkPalette(), [] { return Controls(1); }); }},

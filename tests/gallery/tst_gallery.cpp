@@ -73,6 +73,15 @@ TEST_F(Gallery, LooksAsItIsStored)
     }
 }
 
+TEST_F(Gallery, HoldsNothingThatIsNotDrawn)
+{
+    QStringList drawn;
+    for (const sPicture& picture : GalleryPictures())
+        drawn << picture.m_sName + QStringLiteral(".png");
+    drawn.sort();
+    EXPECT_EQ(QDir(QStringLiteral(INSPECTOR_GALLERY)).entryList(QDir::Files, QDir::Name), drawn);
+}
+
 TEST_F(Gallery, ToleranceSeesAShiftOfOneRow)
 {
     for (const sPicture& picture : GalleryPictures())
