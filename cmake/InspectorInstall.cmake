@@ -1,4 +1,5 @@
-# What is installed: library, headers, the CMake package and the pkg-config file. Every path is
+# What is installed: library, headers, the CMake package and the pkg-config file; and by the project
+# itself also guide and examples. Every path is
 # relative to the place where it ends up, so that the whole can be moved.
 include(CMakePackageConfigHelpers)
 include(GNUInstallDirs)
@@ -80,5 +81,6 @@ install(FILES ${PROJECT_BINARY_DIR}/${INSPECTOR_PACKAGE}.pc
     DESTINATION ${INSPECTOR_INSTALL_PKGCONFIG} COMPONENT dev)
 
 if(PROJECT_IS_TOP_LEVEL)
+    include(InspectorDocuments)
     include(InspectorPackages)
 endif()

@@ -4,13 +4,16 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 
 namespace fs = std::filesystem;
 
 namespace
 {
-const fs::path root = INSPECTOR_SOURCES;
+/// The tree of the project, or the folder that the guide was installed to.
+const fs::path root =
+    std::getenv("INSPECTOR_GUIDE") ? std::getenv("INSPECTOR_GUIDE") : INSPECTOR_SOURCES;
 
 std::vector<fs::path> Pages()
 {

@@ -1,0 +1,22 @@
+# The numbered examples, in order.
+set(INSPECTOR_NUMBERED_EXAMPLES
+    00-smallest-host
+    01-three-rows
+    02-groups-and-containers
+    03-enums
+    04-buttons
+    05-dirty-queue
+    06-number-element
+    07-own-widgets
+    08-undo
+    09-reset-and-marks
+    10-several-objects
+    11-collapsible-groups
+    12-search-box
+    13-keyboard
+    14-copy-and-paste
+    15-a-thousand-rows
+    16-rebuild-while-editing
+    17-panel-for-an-object
+    18-preview-strip
+    19-testing-a-panel)
