@@ -89,4 +89,6 @@ private:
     // is neither destroyed a second time nor laid out again.
     CInspectorController* m_pOwner = nullptr;
     CInspectorView* m_pView = nullptr;
+    // What the toolkit reads first when it places the widget, to be fetched ahead; may be null.
+    const void* m_apFetched[2] = {};
 };

@@ -307,6 +307,16 @@ private:
     void ComputeRunWidths(std::list<sInspectorElement>& rows);
     static void PlaceRow(sInspectorElement& row, int labelWidth);
 
+    bool IsControlOrderKnown() const
+    {
+        return m_bControlOrderKnown && m_vControlOrder.size() == m_setControlHolders.size();
+    }
+    void UpdateControlOrder();
+    template <typename Operation>
+    void ForEachControlHolder(Operation operation);
+    /// Moves the cursor of the vertical pass.
+    void Advance(int& y, int by);
+
     void IndexHolder(sInspectorHolder* holder);
     void CollectStops(const std::list<sInspectorElement>& nodes);
     void AddStop(sInspectorHolder* holder);
@@ -328,4 +338,13 @@ private:
     /// Controllers whose view this is, to be told when it dies.
     std::vector<CInspectorController*> m_vReferrers;
     bool m_bControllerGone = false;
+    /// The control holders, as their set had them when it was last looked at.
+    std::vector<sInspectorHolder*> m_vControlOrder;
+    unsigned long m_ulControlOrder = 0; ///< how often they were looked at
+    bool m_bControlOrderKnown = false;
+
+protected:
+    /// True while every node has a height and lies between the top and the bottom of its group, as
+    /// the last layout stacked them.
+    bool m_bStacked = false;
 };

@@ -48,6 +48,8 @@ CInspectorView& CInspectorView::operator=(const CInspectorView& other)
     m_iOffsetY = other.m_iOffsetY;
     m_bPreview = other.m_bPreview;
     m_bContentShown = other.m_bContentShown;
+    m_bStacked = other.m_bStacked;
+    m_bControlOrderKnown = false;
     m_mapHolders.clear();
     m_ulIndexed = 0;
     m_bStopsKnown = false;
@@ -84,6 +86,7 @@ std::list<CInspectorView::sInspectorElement>* CInspectorView::GetListElements()
 {
     // The caller may move nodes about.
     m_bStopsKnown = false;
+    m_bStacked = false;
     return &m_lElements;
 }
 
@@ -95,6 +98,8 @@ void CInspectorView::RemoveAll()
             widget->m_pView = nullptr;
     }
     m_setControlHolders.clear();
+    m_vControlOrder.clear();
+    m_bControlOrderKnown = false;
     m_mapHolders.clear();
     m_ulIndexed = 0;
     m_vStops.clear();
@@ -112,6 +117,7 @@ CInspectorView::sInspectorElement& CInspectorView::AddNode(int kind, const char*
                                                            sInspectorElement* parent)
 {
     m_bStopsKnown = false;
+    m_bStacked = false;
     sInspectorElement node;
     node.m_iKind = kind;
     node.m_sName = TextOrEmpty(name);
@@ -157,6 +163,7 @@ CInspectorView::AddElement(CInspectorDataElement* element, CInspectorDataWidget*
         row.m_pHolder = holder;
     }
     m_setControlHolders.insert(holder);
+    m_bControlOrderKnown = false;
     IndexHolder(holder);
     if (widget->m_pView && widget->m_pView != this)
         widget->m_pView->ForgetWidget(widget);

@@ -8,6 +8,15 @@
 // The look-ups of the view: the holder of a widget, and the order in which editing moves. Both
 // answer as a walk over the holders or the tree would, without walking each time.
 
+void CInspectorView::UpdateControlOrder()
+{
+    if (IsControlOrderKnown())
+        return;
+    m_vControlOrder.assign(m_setControlHolders.begin(), m_setControlHolders.end());
+    m_bControlOrderKnown = true;
+    ++m_ulControlOrder;
+}
+
 void CInspectorView::IndexHolder(sInspectorHolder* holder)
 {
     ++m_ulIndexed;

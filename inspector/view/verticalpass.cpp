@@ -3,6 +3,7 @@
 #include <inspectordatawidget.h>
 
 #include "pixels.h"
+#include "placingloop.h"
 
 #include <algorithm>
 
@@ -40,6 +41,7 @@ int RowHeight(const CInspectorView::sInspectorElement& row)
 void CInspectorView::RecomputeLayout()
 {
     m_iContentHeight = 0;
+    m_bStacked = !m_bPreview;
     int left = GetInspectorLeftMargin();
     int right = Difference(m_iInspectorWidth, GetInspectorRightMargin());
     int y = GetInspectorTopMargin();
@@ -52,10 +54,16 @@ void CInspectorView::RecomputeLayout()
     m_iContentHeight = y;
     if (m_iInspectorHeight == -1)
         m_iInspectorHeight = y;
-    for (sInspectorHolder* holder : m_setControlHolders)
-        PositionControl(holder);
+    ForEachControlHolder([this](sInspectorHolder& holder) { PositionControl(&holder); });
     UpdateView();
     OnContentHeightSet();
+}
+
+void CInspectorView::Advance(int& y, int by)
+{
+    const int from = y;
+    y = Sum(y, by);
+    m_bStacked = m_bStacked && y >= from;
 }
 
 void CInspectorView::recRecomputeLayout(std::list<sInspectorElement>& list, int& left, int& right,
@@ -73,7 +81,10 @@ void CInspectorView::recRecomputeLayout(std::list<sInspectorElement>& list, int&
         if (node.m_iKind == eElementRow)
         {
             const int height = RowHeight(node);
-            y = m_bPreview ? std::max(y, height) : Sum(y, height);
+            if (m_bPreview)
+                y = std::max(y, height);
+            else
+                Advance(y, height);
         }
         else if (!node.m_lChildren.empty() && m_bPreview)
             recRecomputeLayout(node.m_lChildren, left, right, y);
@@ -81,16 +92,17 @@ void CInspectorView::recRecomputeLayout(std::list<sInspectorElement>& list, int&
         {
             left = Sum(left, GetGroupLeftMargin());
             right = Difference(right, GetGroupRightMargin());
-            y = Sum(y, GetGroupTopMargin());
+            Advance(y, GetGroupTopMargin());
             if (!node.m_sName.empty())
-                y = Sum(y, GetGroupLabelHeight());
+                Advance(y, GetGroupLabelHeight());
             recRecomputeLayout(node.m_lChildren, left, right, y);
-            y = Sum(y, GetGroupBottomMargin());
+            Advance(y, GetGroupBottomMargin());
             right = Sum(right, GetGroupRightMargin());
             left = Difference(left, GetGroupLeftMargin());
         }
         node.m_iHeight = Difference(y, node.m_iY);
+        m_bStacked = m_bStacked && node.m_iHeight > 0;
         if (!m_bPreview)
-            y = Sum(y, GetHeightBetweenControl());
+            Advance(y, GetHeightBetweenControl());
     }
 }

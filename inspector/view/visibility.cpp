@@ -4,6 +4,7 @@
 #include <inspectordatawidget.h>
 
 #include "pixels.h"
+#include "placingloop.h"
 
 #include <cassert>
 
@@ -23,12 +24,13 @@ void CInspectorView::OffsetControls(int dx, int dy)
 {
     m_iOffsetX = dx;
     m_iOffsetY = dy;
-    for (const sInspectorHolder* holder : m_setControlHolders)
-    {
-        if (CInspectorDataWidget* widget = holder->GetWidget())
-            widget->MoveWidget(pixels::Difference(holder->m_iX, dx),
-                               pixels::Difference(holder->m_iY, dy));
-    }
+    ForEachControlHolder(
+        [dx, dy](const sInspectorHolder& holder)
+        {
+            if (CInspectorDataWidget* widget = holder.GetWidget())
+                widget->MoveWidget(pixels::Difference(holder.m_iX, dx),
+                                   pixels::Difference(holder.m_iY, dy));
+        });
 }
 
 void CInspectorView::ShowContent(bool show, bool force)
@@ -41,13 +43,14 @@ void CInspectorView::ShowContent(bool show, bool force)
 
 void CInspectorView::OnToggleShowContent(bool shown)
 {
-    for (sInspectorHolder* holder : m_setControlHolders)
-    {
-        if (shown)
-            PositionControl(holder);
-        else if (CInspectorDataWidget* widget = holder->GetWidget())
-            widget->ResizeWidget(0, 0);
-    }
+    ForEachControlHolder(
+        [this, shown](sInspectorHolder& holder)
+        {
+            if (shown)
+                PositionControl(&holder);
+            else if (CInspectorDataWidget* widget = holder.GetWidget())
+                widget->ResizeWidget(0, 0);
+        });
 }
 
 void CInspectorView::DirtyView()

@@ -5,6 +5,7 @@
 #include "pixels.h"
 
 #include <algorithm>
+#include <iterator>
 
 using pixels::Difference;
 using pixels::Product;
@@ -69,7 +70,10 @@ void CInspectorView::recBuildListElementToComputeWidth(sInspectorElement* parent
         return;
     }
     const auto isRow = [](const sInspectorElement& child) { return child.m_iKind == eElementRow; };
-    const bool isRun = m_bAlignLabels && std::count_if(children.begin(), children.end(), isRow) > 1;
+    const auto findRow = [&](auto from) { return std::find_if(from, children.end(), isRow); };
+    const auto first = findRow(children.begin());
+    const bool isRun =
+        m_bAlignLabels && first != children.end() && findRow(std::next(first)) != children.end();
     if (isRun)
         Prepend(list, parent);
     for (sInspectorElement& child : children)
