@@ -54,12 +54,6 @@ public:
     const std::list<sInspectorControllerData*>& GetItems() const { return m_lItems; }
 };
 
-class CBenchmarkView : public CQTInspectorView
-{
-public:
-    QScrollBar& GetScrollBar() { return *m_pScrollBar; }
-};
-
 class CInspectorPanel : public CPanel
 {
 public:
@@ -91,9 +85,9 @@ public:
 
     void SetWidth(int width) override { m_view.ResizeInspector(width, g_iPanelHeight); }
 
-    int GetScrollSteps() override { return m_view.GetScrollBar().maximum() / g_iRowHeight; }
+    int GetScrollSteps() override { return GetScrollBar().maximum() / g_iRowHeight; }
 
-    void ScrollTo(int step) override { m_view.GetScrollBar().setValue(step * g_iRowHeight); }
+    void ScrollTo(int step) override { GetScrollBar().setValue(step * g_iRowHeight); }
 
     int GetRowCount() override { return static_cast<int>(m_vRows.size()); }
 
@@ -183,7 +177,12 @@ private:
         }
     }
 
-    CBenchmarkView m_view;
+    QScrollBar& GetScrollBar()
+    {
+        return *m_view.findChild<QScrollBar*>(QString(), Qt::FindDirectChildrenOnly);
+    }
+
+    CQTInspectorView m_view;
     CBenchmarkController m_controller;
     std::vector<sRow> m_vRows;
     std::vector<CInspectorDataWidget*> m_vWidgets;

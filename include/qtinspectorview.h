@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QRegion>
 #include <QWidget>
 
 #include <string>
@@ -77,14 +78,19 @@ protected:
 
 private:
     void ReleaseControls();
+    /// The part of the panel whose pixels, moved, are what a repaint would show after a scroll
+    /// step; empty when they are not.
+    QRect FindMovablePixels() const;
     /// What a paint event is about.
     struct sExposed
     {
-        QRect m_rect;
+        QRegion m_region;
+        QRect m_rect;       ///< around the region
         QRect m_rectAround; ///< as far as letters may stand out
         bool m_bUpright;    ///< letters are not slanted
     };
 
+    bool IsOutOfSight(const sInspectorElement& element, const sExposed& exposed) const;
     void PaintLabel(QPainter& painter, const sExposed& exposed, const sInspectorElement& row);
     void PaintGroup(QPainter& painter, const sExposed& exposed, const sInspectorElement& group);
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "panelrepaint.h"
+#include "controlplacement.h"
 
 #include <algorithm>
 
@@ -16,11 +16,11 @@ inline QPoint ReachablePlace(int x, int y)
 #define INSPECTOR_LAYOUT_OPERATIONS(Widget)                                                        \
     void Widget::ResizeWidget(int width, int height)                                               \
     {                                                                                              \
-        ResizeControl(*this, QSize(width, height));                                                \
+        ResizeControl(*this, QSize(width, height), typeid(Widget));                                \
     }                                                                                              \
     void Widget::MoveWidget(int x, int y)                                                          \
     {                                                                                              \
-        MoveControl(*this, ReachablePlace(x, y));                                                  \
+        MoveControl(*this, ReachablePlace(x, y), typeid(Widget));                                  \
     }                                                                                              \
     void Widget::Show()                                                                            \
     {                                                                                              \

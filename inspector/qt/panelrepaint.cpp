@@ -1,20 +1,15 @@
 #include "panelrepaint.h"
 
+#include <qtinspectorview.h>
+
+#include "paintedwithpanel.h"
+
 #include <utility>
 
 namespace
 {
 
-const QWidget* g_pPlacedContent = nullptr;
 const CPaintAhead* g_pPaintAhead = nullptr;
-
-/// Whether all that shows of a control is painted when its panel is: nothing opaque, which the
-/// panel leaves out, no window of its own and nothing that reaches beyond it.
-bool IsPaintedWithPanel(const QWidget& control)
-{
-    return !control.testAttribute(Qt::WA_OpaquePaintEvent) && control.children().isEmpty() &&
-           !control.autoFillBackground() && !control.internalWinId() && !control.graphicsEffect();
-}
 
 /// A widget's area in its own coordinates; its width and height may be more than the toolkit's own
 /// rectangle can tell.
@@ -23,42 +18,18 @@ QRect AreaOf(const QWidget& widget)
     return QRect(QPoint(0, 0), widget.geometry().bottomRight() - widget.pos());
 }
 
-/// Takes a control out of the toolkit's view while its geometry changes: everything happens as
-/// always, but no part of the screen is marked for a repaint.
-class CUnseen
+/// The panel that paints a control when a part of it is to be painted, at once and not after a
+/// paint event that is under way; null when the control must ask for itself.
+QWidget* FindPaintingPanel(const QWidget& control)
 {
-public:
-    explicit CUnseen(QWidget& control) : m_rControl(control)
-    {
-        m_rControl.setAttribute(Qt::WA_OutsideWSRange, true);
-    }
-    ~CUnseen() { m_rControl.setAttribute(Qt::WA_OutsideWSRange, false); }
-    CUnseen(const CUnseen&) = delete;
-    CUnseen& operator=(const CUnseen&) = delete;
-
-private:
-    QWidget& m_rControl;
-};
-
-bool IsPlacedQuietly(const QWidget& control)
-{
-    return g_pPlacedContent && control.parentWidget() == g_pPlacedContent &&
-           IsPaintedWithPanel(control);
+    auto* panel = qobject_cast<CQTInspectorView*>(control.parentWidget()->parentWidget());
+    const bool isReady = panel && !panel->testAttribute(Qt::WA_WState_InPaintEvent) &&
+                         control.isVisible() && control.updatesEnabled() &&
+                         IsPaintedWithPanel(control);
+    return isReady ? panel : nullptr;
 }
 
 } // namespace
-
-CWholePlacement::CWholePlacement(QWidget& panel, const QWidget* content)
-    : m_pPanel(&panel), m_pOuter(std::exchange(g_pPlacedContent, content))
-{
-}
-
-CWholePlacement::~CWholePlacement()
-{
-    g_pPlacedContent = m_pOuter;
-    if (m_pPanel)
-        m_pPanel->update();
-}
 
 CPaintAhead::CPaintAhead(const QWidget* content, const QRegion& region)
     : m_pContent(content), m_region(region.translated(-content->pos())),
@@ -79,33 +50,20 @@ bool CPaintAhead::Covers(const QWidget& control) const
     return (QRegion(seen) - m_region).isEmpty();
 }
 
-void MoveControl(QWidget& control, const QPoint& place)
-{
-    if (control.pos() == place || !IsPlacedQuietly(control))
-    {
-        control.move(place);
-        return;
-    }
-    const CUnseen unseen(control);
-    control.move(place);
-}
-
-void ResizeControl(QWidget& control, const QSize& size)
-{
-    if (control.size() == size || !IsPlacedQuietly(control))
-    {
-        control.resize(size);
-        return;
-    }
-    const CUnseen unseen(control);
-    control.resize(size);
-}
-
 void RepaintControl(QWidget& control)
 {
     const QWidget* content = control.isWindow() ? nullptr : control.parentWidget();
-    const bool isCut =
-        content && !control.graphicsEffect() && !AreaOf(*content).intersects(control.geometry());
-    if (!isCut && !(g_pPaintAhead && g_pPaintAhead->Covers(control)))
+    if (!content)
+    {
+        control.update();
+        return;
+    }
+    const QRect seen = control.geometry() & AreaOf(*content);
+    const bool isCut = seen.isEmpty() && !control.graphicsEffect();
+    if (isCut || (g_pPaintAhead && g_pPaintAhead->Covers(control)))
+        return;
+    if (QWidget* panel = FindPaintingPanel(control))
+        panel->update(seen.translated(content->pos()));
+    else
         control.update();
 }

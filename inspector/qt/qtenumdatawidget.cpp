@@ -4,6 +4,7 @@
 
 #include "inplacelist.h"
 #include "layoutoperations.h"
+#include "panelrepaint.h"
 #include "showablearea.h"
 #include "sortentries.h"
 #include "text.h"

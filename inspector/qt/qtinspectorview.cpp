@@ -5,13 +5,14 @@
 #include <qttextencoding.h>
 
 #include "../view/pixels.h"
-#include "panelrepaint.h"
+#include "controlplacement.h"
 #include "text.h"
 #include "wheelfilter.h"
 
 #include <QFontMetrics>
 #include <QScrollBar>
 
+#include <typeinfo>
 #include <utility>
 
 namespace
@@ -83,7 +84,11 @@ void CQTInspectorView::ResizeInspector(int width, int height)
 
 void CQTInspectorView::UpdateView()
 {
-    m_bRepaintAsked = isVisible() && updatesEnabled();
+    const bool canRepaint = isVisible() && updatesEnabled();
+    // The toolkit would look through the panel again.
+    if (canRepaint && m_bRepaintAsked)
+        return;
+    m_bRepaintAsked = canRepaint;
     update();
 }
 
@@ -110,9 +115,35 @@ void CQTInspectorView::OnContentHeightSet()
 
 void CQTInspectorView::SliderValueChanged(int)
 {
-    const CWholePlacement placement(*this, m_pContent);
-    OffsetControls(0, m_pScrollBar->value());
-    UpdateView();
+    const int value = m_pScrollBar->value();
+    CWholePlacement placement(*this, m_pContent, pixels::Difference(m_iOffsetY, value));
+    OffsetControls(0, value);
+    const QRect area = FindMovablePixels();
+    if (area.isEmpty() || !placement.MovePixels(area))
+        UpdateView();
+}
+
+QRect CQTInspectorView::FindMovablePixels() const
+{
+    // A derived class may draw what does not scroll, and a panel inside of another widget lies on
+    // what that one draws.
+    if (typeid(*this) != typeid(CQTInspectorView) || !isWindow() || !m_sPreviewMessage.empty() ||
+        m_bRepaintAsked || !isVisible() || !updatesEnabled())
+        return {};
+    const bool isPlain = palette().brush(QPalette::Window).style() == Qt::SolidPattern &&
+                         !autoFillBackground() && !testAttribute(Qt::WA_StyledBackground) &&
+                         !testAttribute(Qt::WA_NoSystemBackground) && !graphicsEffect();
+    if (!isPlain)
+        return {};
+    for (const QObject* child : children())
+    {
+        if (child->isWidgetType() && child != m_pContent && child != m_pScrollBar)
+            return {};
+    }
+    const QRect bar = m_pScrollBar->geometry();
+    if (m_pScrollBar->isHidden() || bar != QRect(width() - bar.width(), 0, bar.width(), height()))
+        return {};
+    return {0, 0, bar.x(), height()};
 }
 
 void CQTInspectorView::EnsureVisible(CInspectorDataWidget* widget)
@@ -198,6 +229,11 @@ void CQTInspectorView::OnToggleShowContent(bool shown)
 
 void CQTInspectorView::ParentControlToInspector(CInspectorDataWidget* widget)
 {
-    if (auto* control = dynamic_cast<QWidget*>(widget))
-        control->setParent(m_pContent);
+    auto* control = dynamic_cast<QWidget*>(widget);
+    if (!control)
+        return;
+    control->setParent(m_pContent);
+    // Parts of what the toolkit keeps for the control, far from the control itself.
+    widget->m_apFetched[0] = &control->geometry();
+    widget->m_apFetched[1] = &control->children();
 }

@@ -60,7 +60,8 @@ void CQTInspectorView::paintEvent(QPaintEvent* event)
     // Slanted letters and stacked marks stand out of the rectangle that their text is measured by,
     // and a frame by half of its line.
     const int reach = 2 * painter.fontMetrics().height();
-    const sExposed exposed{event->rect(), event->rect().adjusted(-reach, -reach, reach, reach),
+    const sExposed exposed{event->region(), event->rect(),
+                           event->rect().adjusted(-reach, -reach, reach, reach),
                            painter.font().style() == QFont::StyleNormal};
     // Level by level, so that a frame never runs over what is inside it.
     std::deque<const std::list<sInspectorElement>*> lists{&m_lElements};
@@ -72,23 +73,29 @@ void CQTInspectorView::paintEvent(QPaintEvent* event)
                 PaintLabel(painter, exposed, element);
             else if (!m_bPreview)
                 PaintGroup(painter, exposed, element);
-            if (!element.m_lChildren.empty())
+            if (!element.m_lChildren.empty() && !(m_bStacked && IsOutOfSight(element, exposed)))
                 lists.push_back(&element.m_lChildren);
         }
     }
 }
 
+bool CQTInspectorView::IsOutOfSight(const sInspectorElement& element, const sExposed& exposed) const
+{
+    const long long top = static_cast<long long>(element.m_iY) - m_pScrollBar->value();
+    return IsAboveOrBelow(top, element.m_iHeight, exposed.m_rectAround);
+}
+
 void CQTInspectorView::PaintLabel(QPainter& painter, const sExposed& exposed,
                                   const sInspectorElement& row)
 {
-    const long long top = static_cast<long long>(row.m_iY) - m_pScrollBar->value();
-    if (row.m_sName.empty() || IsAboveOrBelow(top, row.m_iHeight, exposed.m_rectAround))
+    if (row.m_sName.empty() || IsOutOfSight(row, exposed))
         return;
-    const QRectF rect(row.m_iX, static_cast<qreal>(top), row.m_iLabelWidth, row.m_iHeight);
+    const qreal top = qreal(row.m_iY) - m_pScrollBar->value();
+    const QRectF rect(row.m_iX, top, row.m_iLabelWidth, row.m_iHeight);
     if (!MayShow(rect, exposed.m_rectAround))
         return;
-    if (exposed.m_bUpright && !rect.isEmpty() && !rect.intersects(exposed.m_rect) &&
-        IsPlain(row.m_sName))
+    if (exposed.m_bUpright && !rect.isEmpty() &&
+        !exposed.m_region.intersects(rect.toAlignedRect()) && IsPlain(row.m_sName))
         return;
     QString text = ToQString(row.m_sName);
     if (m_bPreview)

@@ -3,6 +3,7 @@
 #include <booldataelement.h>
 
 #include "layoutoperations.h"
+#include "panelrepaint.h"
 #include "qtcompat.h"
 
 #include <QPainter>

@@ -4,6 +4,7 @@
 
 #include "inplaceedit.h"
 #include "layoutoperations.h"
+#include "panelrepaint.h"
 #include "showablearea.h"
 #include "text.h"
 

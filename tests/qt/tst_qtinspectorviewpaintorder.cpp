@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <iterator>
 #include <limits>
 #include <utility>
 #include <vector>
@@ -25,6 +26,7 @@ public:
     int GetInspectorRightMargin() override { return m_iRight; }
     int GetGroupLabelHeight() override { return m_iTitle; }
     int GetGroupLeftMargin() override { return m_iGroupLeft; }
+    int GetGroupTopMargin() override { return m_iGroupTop; }
     int GetGroupRightMargin() override
     {
         if (m_iScrollStep != 0)
@@ -37,6 +39,7 @@ public:
     int m_iRight = 5;
     int m_iTitle = 14;
     int m_iGroupLeft = 5;
+    int m_iGroupTop = 5;
     int m_iGroupRight = 5;
     int m_iScrollStep = 0;
 };
@@ -259,4 +262,64 @@ TEST(QtInspectorViewPaintOrder, PaintsTheEndOfAPanelOfTwoBillionPixels)
                                          panelPainter.Text("Row", 10, 50, panel.LabelWidth("Row"),
                                                            20);
                                      }));
+}
+
+TEST(QtInspectorViewPaintOrder, PaintsATitleFarBelowItsGroup)
+{
+    sHostPanel panel;
+    panel.m_view.m_iTitle = 200;
+    auto* outer = panel.m_view.AddGroup("", nullptr);
+    panel.m_view.AddGroup("Title", outer);
+    panel.AddRow("", 500);
+    panel.m_view.ResizeInspector(300, 100);
+    panel.m_view.m_pScrollBar->setValue(80);
+    panel.m_view.m_pScrollBar->hide();
+    ASSERT_EQ(outer->m_iY + outer->m_iHeight, 20);
+    const sElement& inner = outer->m_lChildren.front();
+    const QRectF title(inner.m_iX + 5, inner.m_iY - 80, inner.m_iWidth - 10, 200);
+    const QImage picture = images::Render(panel.m_view);
+    images::ExpectSame(picture,
+                       images::Paint(panel.m_view,
+                                     [&](QPainter& painter)
+                                     {
+                                         const QPen pen = painter.pen();
+                                         painter.setPen(pen.color().darker(175));
+                                         painter.drawRoundedRect(QRectF(inner.m_iX, title.y() + 100,
+                                                                        inner.m_iWidth, -100),
+                                                                 3, 3);
+                                         painter.setPen(pen);
+                                         painter.setBackgroundMode(Qt::OpaqueMode);
+                                         painter.drawText(title, 129, QStringLiteral("Title"));
+                                     }));
+}
+
+TEST(QtInspectorViewPaintOrder, PaintsARowThatStandsAboveItsGroup)
+{
+    sHostPanel panel;
+    panel.m_view.m_iGroupTop = -200;
+    panel.AddRow("", 300);
+    auto* group = panel.m_view.AddGroup("", nullptr);
+    panel.AddRow("Row", 20, group);
+    panel.AddRow("", 300, group);
+    panel.m_view.ResizeInspector(300, 150);
+    panel.m_view.m_pScrollBar->hide();
+    ASSERT_EQ(group->m_iY, 310);
+    ASSERT_GT(group->m_iHeight, 0);
+    const sElement& row = group->m_lChildren.front();
+    ASSERT_EQ(row.m_iY, 110);
+    images::ExpectSame(images::Render(panel.m_view), PaintInOrder(panel.m_view, {&row}));
+}
+
+TEST(QtInspectorViewPaintOrder, PaintsAGroupThatIsNotLaidOutYet)
+{
+    sPaintedPanel panel;
+    panel.AddRow("", 300);
+    auto* group = panel.m_view.AddGroup("", nullptr);
+    panel.AddRow("", 20, group);
+    panel.m_view.ResizeInspector(300, 150);
+    panel.m_view.m_pScrollBar->hide();
+    const sElement* added = panel.m_view.AddGroup("New", group);
+    const QImage picture = images::Render(panel.m_view);
+    images::ExpectSame(picture, PaintInOrder(panel.m_view, {added}));
+    ExpectDifferent(picture, PaintInOrder(panel.m_view, {}));
 }

@@ -1,0 +1,177 @@
+#include "controlplacement.h"
+
+#include "paintedwithpanel.h"
+
+#include <qtsimpleboolwidget.h>
+#include <qtsimpledatawidget.h>
+
+#include <QCoreApplication>
+#include <QMoveEvent>
+#include <QResizeEvent>
+
+#include <utility>
+
+namespace
+{
+
+CWholePlacement* g_pPlacement = nullptr;
+
+/// Whether a control draws nothing but what it was told to show, which is repainted when it
+/// changes. Others may read their element, or where they are, while they paint.
+bool LooksTheSameElsewhere(const QWidget& control)
+{
+    return typeid(control) == typeid(CQTSimpleDataWidget) ||
+           typeid(control) == typeid(CQTSimpleBoolWidget);
+}
+
+/// Whether the toolkit need not be told of a change of geometry. Out of sight, it is told only of
+/// what may have windows of its own.
+bool IsPlacedQuietly(const QWidget& control, bool isSeen)
+{
+    if (!control.testAttribute(Qt::WA_WState_Created))
+        return false;
+    return isSeen ? IsPaintedWithPanel(control)
+                  : control.children().isEmpty() && !control.internalWinId();
+}
+
+/// Takes a control out of the toolkit's view while its geometry changes. The toolkit notes which
+/// events it owes to the control, and does no more.
+class CUnseen
+{
+public:
+    explicit CUnseen(QWidget& control) : m_rControl(control)
+    {
+        m_rControl.setAttribute(Qt::WA_WState_Created, false);
+    }
+    ~CUnseen() { m_rControl.setAttribute(Qt::WA_WState_Created, true); }
+    CUnseen(const CUnseen&) = delete;
+    CUnseen& operator=(const CUnseen&) = delete;
+
+private:
+    QWidget& m_rControl;
+};
+
+/// Sends the events that a shown control is owed. \p before is where it was, if it was in sight.
+void SendOwedEvents(QWidget& control, const QRect& before)
+{
+    if (!control.isVisible())
+        return;
+    if (control.testAttribute(Qt::WA_PendingMoveEvent))
+    {
+        control.setAttribute(Qt::WA_PendingMoveEvent, false);
+        QMoveEvent event(control.pos(), before.topLeft());
+        QCoreApplication::sendEvent(&control, &event);
+    }
+    if (control.testAttribute(Qt::WA_PendingResizeEvent))
+    {
+        control.setAttribute(Qt::WA_PendingResizeEvent, false);
+        QResizeEvent event(control.size(), before.size());
+        QCoreApplication::sendEvent(&control, &event);
+    }
+}
+
+} // namespace
+
+CWholePlacement::CWholePlacement(QWidget& panel, const QWidget* content, int shift)
+    : m_pPanel(&panel), m_pContent(content), m_pOuter(std::exchange(g_pPlacement, this)),
+      m_iShift(shift)
+{
+}
+
+CWholePlacement::~CWholePlacement()
+{
+    g_pPlacement = m_pOuter;
+    if (m_pPanel && !m_bPixelsMoved)
+        m_pPanel->update();
+}
+
+CWholePlacement* CWholePlacement::Of(const QWidget& control)
+{
+    const bool isPlaced =
+        g_pPlacement && control.parentWidget() == g_pPlacement->m_pContent && !control.isWindow();
+    return isPlaced ? g_pPlacement : nullptr;
+}
+
+bool CWholePlacement::IsSeen(const QRect& area) const
+{
+    // By its corners: its width and height may be more than the toolkit's own rectangle can tell.
+    const QPoint end = m_pContent->geometry().bottomRight() - m_pContent->geometry().topLeft();
+    return area.bottom() >= 0 && area.top() <= end.y() && area.right() >= 0 &&
+           area.left() <= end.x();
+}
+
+void CWholePlacement::Move(QWidget& control, const QPoint& place, bool isPlain)
+{
+    ++m_iMoves;
+    const QRect before = control.geometry();
+    const bool isSeen = IsSeen(before) || IsSeen(QRect(place, before.size()));
+    const bool isThere = before.topLeft() == place && control.testAttribute(Qt::WA_Moved);
+    const bool isQuiet = isThere || IsPlacedQuietly(control, isSeen);
+    if (isSeen && m_iShift != 0)
+        NoteMove(control, place - before.topLeft(), isQuiet);
+    if (!isQuiet)
+    {
+        control.move(place);
+        return;
+    }
+    if (!isThere)
+    {
+        const CUnseen unseen(control);
+        control.move(place);
+    }
+    // Also for a control that stays: the panel may have grown down to it.
+    if (isSeen || !isPlain)
+        SendOwedEvents(control, before);
+}
+
+void CWholePlacement::Resize(QWidget& control, const QSize& size, bool isPlain)
+{
+    const QRect before = control.geometry();
+    if (before.size() == size && control.testAttribute(Qt::WA_Resized))
+        return;
+    const bool isSeen = IsSeen(before) || IsSeen(QRect(before.topLeft(), size));
+    if (!IsPlacedQuietly(control, isSeen))
+    {
+        control.resize(size);
+        return;
+    }
+    {
+        const CUnseen unseen(control);
+        control.resize(size);
+    }
+    if (isSeen || !isPlain)
+        SendOwedEvents(control, before);
+}
+
+void CWholePlacement::NoteMove(const QWidget& control, const QPoint& way, bool isQuiet)
+{
+    m_bShifted = m_bShifted && isQuiet && way == QPoint(0, m_iShift);
+    if (!LooksTheSameElsewhere(control))
+        m_regionDrawnAnew += control.geometry().translated(way);
+}
+
+bool CWholePlacement::MovePixels(const QRect& area)
+{
+    if (!m_pPanel || m_iShift == 0 || !m_bShifted || m_iMoves != m_pContent->children().size())
+        return false;
+    m_bPixelsMoved = true;
+    m_pPanel->scroll(0, m_iShift, area);
+    m_pPanel->update(m_regionDrawnAnew.translated(m_pContent->pos()) & area);
+    return true;
+}
+
+void MoveControl(QWidget& control, const QPoint& place, const std::type_info& type)
+{
+    if (CWholePlacement* placement = CWholePlacement::Of(control))
+        placement->Move(control, place, typeid(control) == type);
+    else
+        control.move(place);
+}
+
+void ResizeControl(QWidget& control, const QSize& size, const std::type_info& type)
+{
+    if (CWholePlacement* placement = CWholePlacement::Of(control))
+        placement->Resize(control, size, typeid(control) == type);
+    else
+        control.resize(size);
+}
