@@ -88,6 +88,18 @@ TEST_F(CAutoLayoutTest, PutsAnEndThatSharesItsInputBesideTheFirst)
     EXPECT_EQ(m_vPlaces[2], Cell(1, 1));
 }
 
+TEST_F(CAutoLayoutTest, KeepsAnEndNearWhatFeedsIt)
+{
+    Add(1, {2});
+    Add(2, {3});
+    Add(3, {4});
+    Add(4);
+    Add(5, {4});
+    LayOut();
+    EXPECT_EQ(m_vPlaces[1], Cell(0, 3));
+    EXPECT_EQ(m_vPlaces[5], Cell(1, 1));
+}
+
 TEST_F(CAutoLayoutTest, PutsAGraphOfItsOwnPastAllOthers)
 {
     Add(1, {2, 3});

@@ -56,3 +56,19 @@ TEST(EdgeRouteTest, LeavesAndArrivesDownwardsAlsoWhenItClimbs)
     EXPECT_LT(path.pointAtPercent(0.9).y(), -120);
     EXPECT_EQ(path.currentPosition(), QPointF(80, -120));
 }
+
+TEST(EdgeRouteTest, ClimbsBesideTheNodesItConnects)
+{
+    // The upper node is to the right of the lower one, and takes what that makes.
+    const QRectF lower(0, 200, 100, 50);
+    const QRectF upper(150, 0, 100, 50);
+    const CEdgeRoute route = RouteEdge(
+        {50, 250}, {200, 0}, {lower.adjusted(1, 1, -1, -1), upper.adjusted(1, 1, -1, -1)});
+    ASSERT_EQ(route.size(), 4u);
+    EXPECT_EQ(route[1].y(), 250);
+    EXPECT_EQ(route[2].y(), 0);
+    EXPECT_GT(route[1].x(), 100);
+    EXPECT_LT(route[1].x(), 150);
+    EXPECT_FALSE(Touches(route, lower.adjusted(1, 1, -1, -1)));
+    EXPECT_FALSE(Touches(route, upper.adjusted(1, 1, -1, -1)));
+}

@@ -125,5 +125,5 @@ TEST_F(CPalettePopupTest, IsGoneAtEscapeAndStartsAnewTheNextTime)
     EXPECT_FALSE(m_palette.isVisible());
     m_palette.PopUp(QPoint(100000, 100000));
     EXPECT_GT(m_palette.GetShown().size(), 100);
-    EXPECT_TRUE(m_palette.screen()->geometry().contains(m_palette.geometry()));
+    EXPECT_TRUE(m_window.geometry().contains(m_palette.geometry()));
 }

@@ -20,6 +20,7 @@ public:
                 m_vConsumers[input].push_back(node.m_iId);
         for (const sLayoutNode& node : nodes)
             FindRow(node.m_iId);
+        Lift();
         for (const sLayoutNode& node : nodes)
             if (m_vConsumers[node.m_iId].empty())
                 PlaceEnd(node.m_iId);
@@ -39,6 +40,25 @@ private:
         for (const int consumer : m_vConsumers[id])
             row = std::max(row, FindRow(consumer) + 1);
         return m_vRows[id] = row;
+    }
+
+    // What waits far below all that feeds it, as an end beside a longer one does, comes up to it.
+    void Lift()
+    {
+        std::vector<int> downwards;
+        for (const auto& [id, node] : m_vById)
+            downwards.push_back(id);
+        std::stable_sort(downwards.begin(), downwards.end(),
+                         [this](int left, int right) { return Row(left) > Row(right); });
+        for (const int id : downwards)
+        {
+            int lowest = -1;
+            for (const int input : Inputs(id))
+                if (m_vById.count(input))
+                    lowest = lowest < 0 ? Row(input) : std::min(lowest, Row(input));
+            if (lowest > 0)
+                m_vRows[id] = lowest - 1;
+        }
     }
 
     bool IsPlaced(int id) const { return m_vColumns.count(id) != 0; }

@@ -128,6 +128,13 @@ void CCanvasView::drawBackground(QPainter* painter, const QRectF& area)
 
 void CCanvasView::drawForeground(QPainter* painter, const QRectF& /*area*/)
 {
+    if (m_scene.GetNodeItems().empty())
+    {
+        painter->resetTransform();
+        painter->setPen(g_colorFaint);
+        painter->drawText(viewport()->rect(), Qt::AlignCenter,
+                          tr("Double-click, or press Tab, to add an operation."));
+    }
     if (!m_connectTool.IsActive())
         return;
     const QColor color = m_connectTool.IsRefused() ? g_colorError : g_colorAccent;

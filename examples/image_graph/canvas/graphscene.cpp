@@ -249,9 +249,12 @@ void CGraphScene::LeadEdges()
     {
         std::vector<QRectF> obstacles;
         for (const auto& [id, node] : m_vNodes)
-            if (id != edge->GetEdge().m_iFrom && id != edge->GetEdge().m_iTo)
-                obstacles.push_back(node->GetFrame().adjusted(-g_dNodeMargin, -g_dNodeMargin,
-                                                              g_dNodeMargin, g_dNodeMargin));
+        {
+            // The edge touches its own nodes, but must not cross them either.
+            const bool isOwn = id == edge->GetEdge().m_iFrom || id == edge->GetEdge().m_iTo;
+            const qreal margin = isOwn ? -1 : g_dNodeMargin;
+            obstacles.push_back(node->GetFrame().adjusted(-margin, -margin, margin, margin));
+        }
         edge->SetRoute(RouteEdge(From(edge->GetEdge()), To(edge->GetEdge()), obstacles));
     }
     Q_EMIT PlacesChanged();

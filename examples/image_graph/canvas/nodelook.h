@@ -10,8 +10,8 @@ namespace nodelook
 {
 
 constexpr qreal g_dWidth = 232;
-constexpr qreal g_dHeight = 60;
-constexpr qreal g_dTitleHeight = 30;
+constexpr qreal g_dHeight = 58;
+constexpr qreal g_dTitleHeight = 28;
 constexpr qreal g_dRounding = 5;
 constexpr qreal g_dBarWidth = 5; ///< the stripe that tells the category
 constexpr qreal g_dPadRadius = 5;
@@ -25,6 +25,7 @@ const QColor g_colorBody(46, 48, 52);
 const QColor g_colorOutline(22, 23, 25);
 const QColor g_colorTitle(230, 230, 228);
 const QColor g_colorFaint(150, 153, 157);
+const QColor g_colorOff(92, 96, 102); ///< of what can be switched on
 const QColor g_colorEdge(152, 158, 166);
 const QColor g_colorAccent(98, 163, 222);
 const QColor g_colorError(236, 110, 90);
@@ -53,7 +54,7 @@ inline QRectF StripArea()
 /// The switch that keeps the parameters shown.
 inline QRectF PinArea()
 {
-    return {g_dWidth - 26, 4, 22, 22};
+    return {g_dWidth - 25, 3, 22, 22};
 }
 
 /// A colour for a category; the same name has the same colour.

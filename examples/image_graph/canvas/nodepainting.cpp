@@ -39,8 +39,7 @@ void CNodeItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* option,
     PaintFrame(*painter);
     if (option->levelOfDetailFromTransform(painter->worldTransform()) >= g_dLeastDetail)
         PaintTexts(*painter);
-    if (m_bPinned || m_bHovered)
-        PaintPin(*painter);
+    PaintPin(*painter);
     if (m_bViewed)
         PaintEye(*painter);
     PaintPads(*painter);
@@ -116,7 +115,8 @@ void CNodeItem::PaintPad(QPainter& painter, const sPadRef& pad, const QPointF& c
 
 void CNodeItem::PaintPin(QPainter& painter) const
 {
-    painter.setPen(QPen(m_bPinned ? g_colorAccent : g_colorFaint, 1.6));
+    const QColor open = m_bHovered ? g_colorFaint : g_colorOff;
+    painter.setPen(QPen(m_bPinned ? g_colorAccent : open, 1.6));
     painter.setBrush(m_bPinned ? g_colorAccent : Qt::transparent);
     const QPointF centre = PinArea().center();
     painter.drawEllipse(centre - QPointF(0, 3), 4, 4);
@@ -125,7 +125,7 @@ void CNodeItem::PaintPin(QPainter& painter) const
 
 void CNodeItem::PaintEye(QPainter& painter) const
 {
-    const QPointF centre = PinArea().center() - QPointF(21, 0);
+    const QPointF centre = PinArea().center() - QPointF(22, 0);
     QPainterPath lids(centre - QPointF(8, 0));
     lids.quadTo(centre - QPointF(0, 9), centre + QPointF(8, 0));
     lids.quadTo(centre + QPointF(0, 9), centre - QPointF(8, 0));

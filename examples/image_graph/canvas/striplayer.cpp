@@ -73,8 +73,11 @@ bool CStripLayer::IsEditing() const
 bool CStripLayer::IsWanted(int node) const
 {
     const CNodeItem* item = m_scene.FindNode(node);
-    return item &&
-           (node == m_iHovered || item->IsPinned() || item->GetState().m_eState != eNodeIdle);
+    if (!item)
+        return false;
+    // Whoever has no parameters says so.
+    return node == m_iHovered || item->IsPinned() || item->GetState().m_eState != eNodeIdle ||
+           m_scene.GetGraph().Find(node)->GetInfo().m_vProperties.empty();
 }
 
 void CStripLayer::Update()
@@ -96,8 +99,19 @@ void CStripLayer::Update()
     }
     for (const auto& [node, item] : m_scene.GetNodeItems())
         if (IsWanted(node) && !FindStrip(node))
-            m_vStrips[node] = m_factory(node, m_view.viewport());
+            m_vStrips[node] = MakeStrip(node);
     Place();
+}
+
+QWidget* CStripLayer::MakeStrip(int node)
+{
+    QWidget* strip = m_factory(node, m_view.viewport());
+    // It covers what the node says there.
+    QPalette palette = strip->palette();
+    palette.setColor(QPalette::Window, nodelook::g_colorBody);
+    strip->setPalette(palette);
+    strip->setAutoFillBackground(true);
+    return strip;
 }
 
 void CStripLayer::Place()

@@ -35,6 +35,7 @@ private:
     void OnHover(int node, bool isHovered);
     void OnLeft();
     void Update();
+    QWidget* MakeStrip(int node);
     void Place();
     bool IsWanted(int node) const;
     QRect AreaOf(int node, bool& isShown) const;

@@ -1,135 +1,143 @@
 #include "mainwindow.h"
 
-#include "../chain/inspector/inspectorpanel.h"
-#include "chainview.h"
-#include "operationpalette.h"
+#include "../canvas/autolayout.h"
+#include "../canvas/canvasview.h"
+#include "../canvas/nodelook.h"
+#include "../canvas/nodestates.h"
+#include "../canvas/striplayer.h"
+#include "../inspector/inspectorpanel.h"
+#include "../inspector/previewstrip.h"
+#include "filecommands.h"
+#include "mainmenu.h"
+#include "messagelist.h"
+#include "operationtexts.h"
+#include "palettepopup.h"
 #include "pictureview.h"
 #include "samples.h"
 
-#include <QAction>
+#include <qtsimpledatawidget.h>
+
 #include <QCloseEvent>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
-#include <QMenuBar>
-#include <QMessageBox>
 #include <QSplitter>
 #include <QStatusBar>
-#include <QVBoxLayout>
+
+namespace
+{
+
+constexpr QSize g_size(1440, 900);
+constexpr int g_iSideWidth = 430;
+constexpr int g_iPictureHeight = 350;
+constexpr int g_iMessagesHeight = 110;
+
+} // namespace
 
 CMainWindow::CMainWindow()
-    : m_pChain(new CChainView(m_document)), m_pPalette(new COperationPalette),
-      m_pPicture(new CPictureView), m_pInspector(new CInspectorPanel(m_document)),
-      m_pMessage(new QLabel)
+    : m_pScene(std::make_unique<CGraphScene>(m_document)),
+      m_pCommands(std::make_unique<CCanvasCommands>(*m_pScene)),
+      m_pFiles(new CFileCommands(m_document, this)), m_pCanvas(new CCanvasView(*m_pScene)),
+      m_pStrips(new CStripLayer(*m_pCanvas, [this](int node, QWidget* parent)
+                                { return MakeStrip(node, parent); })),
+      m_pPalette(new CPalettePopup(this)), m_pPicture(new CPictureView),
+      m_pInspector(new CInspectorPanel(m_document)), m_pMessages(new CMessageList),
+      m_pMessage(new QLabel), m_pSummary(new QLabel)
 {
+    new CNodeStates(*m_pScene, m_renderer); // the scene owns it
     BuildPanels();
-    BuildActions();
-    ConnectParts();
+    new CMainMenu(*this); // owned by this window
+    ConnectDocument();
+    ConnectCanvas();
+    ConnectRenderer();
     UpdateTitle();
-    resize(1360, 780);
+    UpdateSummary();
+    resize(g_size);
 }
 
 CMainWindow::~CMainWindow()
 {
-    // The panels look at the document, which goes before the widgets that Qt destroys.
+    // The panels look at the document and the scene, which go before the widgets that Qt destroys.
     delete takeCentralWidget();
 }
 
 QString CMainWindow::GetMessage() const
 {
-    return m_pMessage->text();
+    return m_pMessage->toolTip();
+}
+
+QWidget* CMainWindow::MakeStrip(int node, QWidget* parent)
+{
+    auto* strip = new CPreviewStrip(m_document, m_renderer, node, parent);
+    connect(strip, &CPreviewStrip::Message, this, &CMainWindow::ShowMessage);
+    return strip;
 }
 
 void CMainWindow::BuildPanels()
 {
     auto* left = new QSplitter(Qt::Vertical);
-    left->addWidget(m_pChain);
-    left->addWidget(m_pPalette);
-    left->setSizes({400, 300});
-    auto* leftFrame = new QWidget;
-    auto* leftLayout = new QVBoxLayout(leftFrame);
-    leftLayout->setContentsMargins(8, 8, 4, 8);
-    leftLayout->addWidget(left);
+    left->addWidget(m_pCanvas);
+    left->addWidget(m_pMessages);
+    left->setStretchFactor(0, 1);
+    left->setSizes({g_size.height(), g_iMessagesHeight});
+    m_pMessages->hide();
+    auto* right = new QSplitter(Qt::Vertical);
+    right->addWidget(m_pPicture);
+    right->addWidget(m_pInspector);
+    right->setStretchFactor(1, 1);
+    right->setSizes({g_iPictureHeight, g_size.height() - g_iPictureHeight});
     auto* all = new QSplitter;
-    all->addWidget(leftFrame);
-    all->addWidget(m_pPicture);
-    all->addWidget(m_pInspector);
-    all->setStretchFactor(1, 1);
-    all->setSizes({230, 750, 380});
-    all->setHandleWidth(1);
-    left->setHandleWidth(8);
-    all->setChildrenCollapsible(false);
+    all->addWidget(left);
+    all->addWidget(right);
+    all->setStretchFactor(0, 1);
+    all->setSizes({g_size.width() - g_iSideWidth, g_iSideWidth});
+    for (QSplitter* splitter : {left, right, all})
+    {
+        splitter->setHandleWidth(1);
+        splitter->setChildrenCollapsible(false);
+    }
     setCentralWidget(all);
+    m_pSummary->setEnabled(false);
     statusBar()->addWidget(m_pMessage, 1);
+    statusBar()->addPermanentWidget(m_pSummary);
     statusBar()->setSizeGripEnabled(false);
 }
 
-void CMainWindow::BuildActions()
+void CMainWindow::ConnectDocument()
 {
-    QMenu* file = menuBar()->addMenu(tr("&File"));
-    const auto add = [this](QMenu* menu, const QString& text, const QKeySequence& keys,
-                            void (CMainWindow::*slot)())
-    {
-        QAction* action = menu->addAction(text);
-        action->setShortcut(keys);
-        connect(action, &QAction::triggered, this, slot);
-    };
-    QAction* fresh = file->addAction(tr("&New"));
-    fresh->setShortcut(QKeySequence::New);
-    connect(fresh, &QAction::triggered, this,
-            [this]
-            {
-                if (MayDiscard())
-                    m_document.Clear();
-            });
-    add(file, tr("&Open\u2026"), QKeySequence::Open, &CMainWindow::Open);
-    add(file, tr("&Save As\u2026"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
-        &CMainWindow::SaveAs);
-    QAction* quit = file->addAction(tr("&Quit"));
-    quit->setShortcut(QKeySequence::Quit);
-    connect(quit, &QAction::triggered, this, &QWidget::close);
-
-    QMenu* samples = menuBar()->addMenu(tr("S&amples"));
-    for (const QString& path : SamplePaths())
-    {
-        QAction* action = samples->addAction(SampleTitle(path));
-        connect(action, &QAction::triggered, this,
-                [this, path]
-                {
-                    if (MayDiscard())
-                        OpenGraph(path);
-                });
-    }
-    QMenu* operation = menuBar()->addMenu(tr("&Operation"));
-    QAction* search = operation->addAction(tr("&Add\u2026"));
-    search->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_F));
-    connect(search, &QAction::triggered, m_pPalette, &COperationPalette::FocusSearch);
-    QAction* remove = operation->addAction(tr("&Remove"));
-    remove->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Delete));
-    connect(remove, &QAction::triggered, m_pChain, &CChainView::RemoveCurrent);
-    QAction* up = operation->addAction(tr("Move &Up"));
-    up->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Up));
-    connect(up, &QAction::triggered, this, [this] { m_pChain->MoveCurrent(-1); });
-    QAction* down = operation->addAction(tr("Move &Down"));
-    down->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Down));
-    connect(down, &QAction::triggered, this, [this] { m_pChain->MoveCurrent(1); });
+    connect(&m_document, &CGraphDocument::StateChanged, this, &CMainWindow::UpdateTitle);
+    connect(&m_document, &CGraphDocument::GraphReplaced, this, &CMainWindow::OnGraphReplaced);
+    connect(&m_document, &CGraphDocument::PictureChanged, this,
+            [this] { m_renderer.Render(m_document.GetGraph(), m_document.GetViewed()); });
+    connect(m_pFiles, &CFileCommands::Message, this, &CMainWindow::ShowMessage);
+    connect(m_pInspector, &CInspectorPanel::Message, this, &CMainWindow::ShowMessage);
 }
 
-void CMainWindow::ConnectParts()
+void CMainWindow::ConnectCanvas()
 {
-    connect(m_pChain, &CChainView::CurrentChanged, m_pInspector, &CInspectorPanel::ShowItem);
-    connect(m_pPalette, &COperationPalette::Chosen, this, &CMainWindow::AddOperation);
-    connect(m_pInspector, &CInspectorPanel::Message, this, &CMainWindow::ShowMessage);
-    connect(&m_document, &CGraphDocument::StateChanged, this, &CMainWindow::UpdateTitle);
-    connect(&m_document, &CGraphDocument::ItemChanged, this,
-            [this](sGraphItem* item)
+    connect(m_pScene.get(), &QGraphicsScene::selectionChanged, this,
+            [this] { m_pInspector->ShowNodes(m_pScene->GetSelectedNodes()); });
+    connect(m_pScene.get(), &CGraphScene::NodesChanged, this, &CMainWindow::UpdateSummary);
+    connect(m_pCanvas, &CCanvasView::Moved, this, &CMainWindow::UpdateSummary);
+    connect(m_pCanvas, &CCanvasView::PlaceChosen, this, &CMainWindow::OfferOperations);
+    connect(m_pCanvas, &CCanvasView::NodeChosen, &m_document, &CGraphDocument::View);
+    connect(m_pMessages, &CMessageList::NodeChosen, this,
+            [this](int node)
             {
-                if (item == m_pInspector->GetController().GetItem())
-                    m_pInspector->GetController().RefreshInspector();
+                m_pScene->SelectNodes({node});
+                m_pCanvas->ShowNode(node);
             });
-    connect(&m_document, &CGraphDocument::PictureChanged, this,
-            [this] { m_renderer.Render(m_document.GetChain()); });
-    connect(m_pPicture, &CPictureView::CancelClicked, &m_renderer, &CRenderer::Cancel);
+    connect(m_pPalette, &CPalettePopup::Chosen, this,
+            [this](const QString& operation)
+            {
+                const int node = m_pCommands->Add(operation.toStdString(), m_placeForNew);
+                m_pCanvas->ShowNode(node);
+                m_pCanvas->setFocus();
+            });
+}
+
+void CMainWindow::ConnectRenderer()
+{
+    connect(m_pPicture, &CPictureView::CancelClicked, this, &CMainWindow::CancelRendering);
     connect(&m_renderer, &CRenderer::Progress, m_pPicture, &CPictureView::ShowProgress);
     connect(&m_renderer, &CRenderer::Cancelled, m_pPicture, &CPictureView::ShowCancelled);
     connect(&m_renderer, &CRenderer::Finished, this,
@@ -140,12 +148,79 @@ void CMainWindow::ConnectParts()
                     ShowMessage(message);
                 Q_EMIT Rendered();
             });
+    connect(&m_renderer, &CRenderer::NodeStateChanged, this,
+            [this](int node)
+            {
+                const sNodeState state = m_renderer.GetNodeState(node);
+                const sGraphNode* known = m_document.GetGraph().Find(node);
+                if (known && state.m_eState == eNodeError)
+                    Say(TitleOf(known->GetInfo()) + QStringLiteral(": ") + state.m_sError, node);
+                else if (node == m_iMessageNode)
+                    Say(QString(), node);
+            });
+}
+
+void CMainWindow::EditFirstValue()
+{
+    CQTSimpleDataWidget* first = nullptr;
+    for (auto* field : m_pInspector->findChildren<CQTSimpleDataWidget*>())
+        if (field->isVisible() && (!first || field->y() < first->y()))
+            first = field;
+    if (first)
+        first->StartEditing();
+}
+
+void CMainWindow::CancelRendering()
+{
+    m_renderer.Cancel();
 }
 
 void CMainWindow::ShowMessage(const QString& text)
 {
+    // What is wrong with a node stays said until it is right, or something else is to be said.
+    if (!text.isEmpty() || !m_iMessageNode)
+        Say(text, 0);
+}
+
+void CMainWindow::Say(const QString& text, int node)
+{
+    m_iMessageNode = text.isEmpty() ? 0 : node;
+    QPalette palette = statusBar()->palette();
+    if (m_iMessageNode)
+        palette.setColor(QPalette::WindowText, nodelook::g_colorError);
+    m_pMessage->setPalette(palette);
     m_pMessage->setText(text.section(QLatin1Char('\n'), 0, 0));
     m_pMessage->setToolTip(text);
+    m_pMessages->Add(text, node);
+}
+
+void CMainWindow::OfferOperations(const QPoint& place)
+{
+    m_placeForNew = m_pCanvas->mapToScene(place);
+    m_pPalette->PopUp(m_pCanvas->viewport()->mapToGlobal(place));
+}
+
+void CMainWindow::OfferOperationsAtMouse()
+{
+    const std::vector<int> selected = m_pScene->GetSelectedNodes();
+    const bool isMouseElsewhere = !m_pCanvas->viewport()->underMouse();
+    if (!isMouseElsewhere || selected.size() != 1)
+        return OfferOperations(m_pCanvas->GetPlaceForNew());
+    m_pCanvas->ShowNode(selected[0]);
+    const QRectF frame = m_pScene->FindNode(selected[0])->GetFrame();
+    OfferOperations(m_pCanvas->mapFromScene(
+        QPointF(frame.center().x(), frame.bottom() + sLayoutSpacing().m_dBetweenRows)));
+}
+
+void CMainWindow::OnGraphReplaced()
+{
+    if (m_document.NeedsPlaces())
+        m_document.Place(CCanvasCommands::FindPlaces(m_document.GetGraph()));
+    m_pCanvas->ShowAll();
+    if (const int viewed = m_document.GetViewed())
+        m_pScene->SelectNodes({viewed});
+    else
+        m_pInspector->ShowNodes({});
 }
 
 void CMainWindow::UpdateTitle()
@@ -160,51 +235,20 @@ void CMainWindow::UpdateTitle()
     setWindowModified(m_document.IsModified());
 }
 
-void CMainWindow::AddOperation(const QString& name)
+void CMainWindow::UpdateSummary()
 {
-    m_document.Add(name.toStdString(), m_pChain->GetCurrent());
+    constexpr int percent = 100;
+    m_pSummary->setText(tr("%1 nodes, %2 %")
+                            .arg(m_pScene->GetNodeItems().size())
+                            .arg(qRound(m_pCanvas->GetZoom() * percent)));
 }
 
 bool CMainWindow::OpenGraph(const QString& path)
 {
-    QString message;
-    const bool good = m_document.Load(path, message);
-    ShowMessage(message);
-    return good;
-}
-
-void CMainWindow::Open()
-{
-    if (!MayDiscard())
-        return;
-    const QString path = QFileDialog::getOpenFileName(this, tr("Open a graph"), QString(),
-                                                      tr("Graphs (*.xml);;All files (*)"));
-    if (!path.isEmpty() && !OpenGraph(path))
-        QMessageBox::warning(this, tr("Open a graph"), m_pMessage->toolTip());
-}
-
-void CMainWindow::SaveAs()
-{
-    const QString path = QFileDialog::getSaveFileName(this, tr("Save the graph"), QString(),
-                                                      tr("Graphs (*.xml);;All files (*)"));
-    if (path.isEmpty())
-        return;
-    QString message;
-    if (m_document.Save(path, message))
-        ShowMessage(tr("Saved."));
-    else
-        QMessageBox::warning(this, tr("Save the graph"), message);
-}
-
-bool CMainWindow::MayDiscard()
-{
-    return !m_document.IsModified() || m_document.GetChain().empty() ||
-           QMessageBox::question(this, tr("Unsaved changes"),
-                                 tr("The graph was changed and not saved. Discard the changes?")) ==
-               QMessageBox::Yes;
+    return m_pFiles->OpenPath(path);
 }
 
 void CMainWindow::closeEvent(QCloseEvent* event)
 {
-    event->setAccepted(MayDiscard());
+    event->setAccepted(m_pFiles->MayDiscard());
 }

@@ -8,7 +8,6 @@
 #include <QLineEdit>
 #include <QMap>
 #include <QPainter>
-#include <QScreen>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
 #include <QVBoxLayout>
@@ -22,7 +21,9 @@ constexpr int g_iNameRole = Qt::UserRole;
 constexpr int g_iSearchRole = Qt::UserRole + 1;
 constexpr int g_iRowHeight = 22;
 constexpr QSize g_size(320, 420);
-constexpr int g_iFromEdge = 8; ///< of the screen
+constexpr int g_iSearchHeight = 56; ///< of all that is no row
+constexpr int g_iLeastHeight = 100;
+constexpr int g_iFromEdge = 8; ///< of the window
 
 // Rows of the palette carry the colour that nodes of the category have.
 QIcon CategoryIcon(const QString& category)
@@ -117,12 +118,13 @@ void CPalettePopup::Fill()
 
 void CPalettePopup::PopUp(const QPoint& corner)
 {
-    const QRect room = screen()->availableGeometry().adjusted(g_iFromEdge, g_iFromEdge,
-                                                              -g_iFromEdge, -g_iFromEdge);
-    move(std::clamp(corner.x(), room.left(), std::max(room.left(), room.right() - width())),
-         std::clamp(corner.y(), room.top(), std::max(room.top(), room.bottom() - height())));
     m_pSearch->clear();
     SetFilter(QString());
+    const QWidget& window = *parentWidget()->window();
+    const QRect room = QRect(window.mapToGlobal(QPoint(0, 0)), window.size())
+                           .adjusted(g_iFromEdge, g_iFromEdge, -g_iFromEdge, -g_iFromEdge);
+    move(std::clamp(corner.x(), room.left(), std::max(room.left(), room.right() - width())),
+         std::clamp(corner.y(), room.top(), std::max(room.top(), room.bottom() - height())));
     m_pTree->scrollToTop();
     show();
     m_pSearch->setFocus();
@@ -133,6 +135,7 @@ void CPalettePopup::SetFilter(const QString& text)
     const QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     QTreeWidgetItem* best = nullptr;
     int bestRank = 0;
+    int rows = 0;
     for (int i = 0; i < m_pTree->topLevelItemCount(); ++i)
     {
         QTreeWidgetItem* group = m_pTree->topLevelItem(i);
@@ -142,6 +145,7 @@ void CPalettePopup::SetFilter(const QString& text)
             QTreeWidgetItem* row = group->child(j);
             const bool isShown = HasWords(row->data(0, g_iSearchRole).toString(), words);
             row->setHidden(!isShown);
+            rows += isShown;
             isEmpty = isEmpty && !isShown;
             const int rank = Rank(row->text(0), text.trimmed());
             if (isShown && !words.isEmpty() && (!best || rank < bestRank))
@@ -151,9 +155,13 @@ void CPalettePopup::SetFilter(const QString& text)
             }
         }
         group->setHidden(isEmpty);
+        rows += !isEmpty;
         group->setExpanded(!words.isEmpty());
     }
     m_pTree->setCurrentItem(best);
+    // As tall as what was found.
+    const int height = words.isEmpty() ? g_size.height() : g_iSearchHeight + rows * g_iRowHeight;
+    resize(width(), std::clamp(height, g_iLeastHeight, g_size.height()));
 }
 
 QStringList CPalettePopup::GetShown() const

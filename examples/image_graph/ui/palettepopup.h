@@ -15,7 +15,8 @@ class CPalettePopup : public QFrame
 public:
     explicit CPalettePopup(QWidget* parent);
 
-    /// Appears with its corner there, in global coordinates, and takes the keyboard.
+    /// Appears with its corner there, in global coordinates, but inside the window, and takes the
+    /// keyboard.
     void PopUp(const QPoint& corner);
     /// Shows what has every word of \p text in its title, name, category or description; the row
     /// that fits best is the current one.

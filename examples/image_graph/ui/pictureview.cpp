@@ -12,6 +12,7 @@ namespace
 
 constexpr int g_iMargin = 16;
 constexpr int g_iCheckSize = 8;
+constexpr int g_iPatience = 200; ///< in milliseconds
 
 // What shows through where the picture does.
 QBrush CheckBrush()
@@ -65,7 +66,17 @@ CPictureView::CPictureView(QWidget* parent)
     m_pProgress->setRange(0, 100);
     m_pProgress->setTextVisible(false);
     m_pProgress->setFixedHeight(10);
-    m_pCancel->setEnabled(false);
+    // Unseen, they keep their room.
+    for (QWidget* widget : {static_cast<QWidget*>(m_pProgress), static_cast<QWidget*>(m_pCancel)})
+    {
+        QSizePolicy policy = widget->sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        widget->setSizePolicy(policy);
+    }
+    SetProgressVisible(false);
+    m_patience.setSingleShot(true);
+    m_patience.setInterval(g_iPatience);
+    connect(&m_patience, &QTimer::timeout, this, [this] { SetProgressVisible(true); });
     auto* strip = new QHBoxLayout;
     strip->setContentsMargins(8, 2, 8, 6);
     strip->setSpacing(10);
@@ -81,9 +92,9 @@ CPictureView::CPictureView(QWidget* parent)
 
 void CPictureView::ShowProgress(int percent)
 {
-    m_pState->setText(tr("Rendering"));
     m_pProgress->setValue(percent);
-    m_pCancel->setEnabled(true);
+    if (m_pCancel->isHidden() && !m_patience.isActive())
+        m_patience.start();
 }
 
 void CPictureView::ShowImage(const QImage& image)
@@ -103,5 +114,14 @@ void CPictureView::EndProgress(const QString& state)
 {
     m_pState->setText(state);
     m_pProgress->setValue(0);
-    m_pCancel->setEnabled(false);
+    m_patience.stop();
+    SetProgressVisible(false);
+}
+
+void CPictureView::SetProgressVisible(bool visible)
+{
+    m_pProgress->setVisible(visible);
+    m_pCancel->setVisible(visible);
+    if (visible)
+        m_pState->setText(tr("Rendering"));
 }

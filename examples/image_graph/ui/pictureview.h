@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QImage>
+#include <QTimer>
 #include <QWidget>
 
 class QLabel;
@@ -27,6 +28,7 @@ Q_SIGNALS:
 
 private:
     void EndProgress(const QString& state);
+    void SetProgressVisible(bool visible);
 
     class CCanvas;
 
@@ -35,4 +37,5 @@ private:
     QLabel* m_pState;
     QProgressBar* m_pProgress;
     QPushButton* m_pCancel;
+    QTimer m_patience; ///< most pictures are there before one could cancel them
 };
