@@ -1,6 +1,7 @@
 #include "editorplacement.h"
 
 #include "droprect.h"
+#include "panelrepaint.h"
 #include "qtcompat.h"
 
 #include <QApplication>
@@ -44,6 +45,7 @@ void CEditorPlacement::Show(QWidget& owner, const QRect& rect)
     m_iOtherWindows = CountOtherWindows();
     m_OutsidePress.Watch(nullptr);
     m_rEditor.setAttribute(Qt::WA_NoMousePropagation, false);
+    LetPaint();
     m_rEditor.setWindowFlags(Qt::ToolTip);
     // After the flags, a change of which moves a window on platforms that count in its frame.
     m_rEditor.setGeometry(rect);
@@ -68,8 +70,18 @@ void CEditorPlacement::FloatIn(QWidget& window, const QRect& rect)
     m_OutsidePress.Watch(&window);
     m_rEditor.setParent(&window, Qt::Widget);
     m_rEditor.setGeometry(QRect(window.mapFromGlobal(rect.topLeft()), rect.size()));
+    LetPaint();
     m_rEditor.show();
     m_rEditor.raise();
+}
+
+void CEditorPlacement::LetPaint()
+{
+    const bool isTooEarly = CPaintAhead::IsUnderWay();
+    m_rEditor.setUpdatesEnabled(!isTooEarly);
+    if (isTooEarly)
+        QMetaObject::invokeMethod(
+            &m_rEditor, [this] { LetPaint(); }, Qt::QueuedConnection);
 }
 
 QRect CEditorPlacement::ListRect(const QWidget& owner, const QRect& area, int wantedHeight)
@@ -95,6 +107,9 @@ void CEditorPlacement::Hide()
     if (hadFocus)
         m_rEditor.clearFocus();
     m_rEditor.hide();
+    // A window that is being painted comes back to the children that it began with, wherever they
+    // are by then, unless there is nothing to paint.
+    m_rEditor.setUpdatesEnabled(false);
     m_rEditor.setParent(nullptr);
     if (hadFocus && m_pFocusBefore)
         m_pFocusBefore->setFocus(Qt::OtherFocusReason);

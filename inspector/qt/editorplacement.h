@@ -35,6 +35,7 @@ public:
 
 private:
     void FloatIn(QWidget& window, const QRect& rect);
+    void LetPaint();
     int CountOtherWindows() const;
 
     QWidget& m_rEditor;

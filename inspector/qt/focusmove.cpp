@@ -15,7 +15,8 @@ const CFocusMove* g_pInnermost = nullptr;
 
 } // namespace
 
-CFocusMove::CFocusMove(const QWidget& left) : m_rLeft(left), m_pOuter(g_pInnermost)
+CFocusMove::CFocusMove(const QWidget& left)
+    : m_rLeft(left), m_pReached(QApplication::focusWidget()), m_pOuter(g_pInnermost)
 {
     g_pInnermost = this;
     g_pfnTakeOver = &CFocusMove::TakeOver;
@@ -46,7 +47,7 @@ bool CFocusMove::TakeOver(CInspectorDataWidget& widget)
         return false;
     bool isHeld = IsHolding(control, QApplication::focusWidget());
     for (const CFocusMove* move = g_pInnermost; move; move = move->m_pOuter)
-        isHeld = isHeld || control == &move->m_rLeft;
+        isHeld = isHeld || control == &move->m_rLeft || IsHolding(control, move->m_pReached);
     if (!isHeld)
         return false;
     if (auto* box = dynamic_cast<CQTSimpleTextWidget*>(control))

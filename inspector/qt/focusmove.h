@@ -1,9 +1,11 @@
 #pragma once
 
-class CInspectorDataWidget;
-class QWidget;
+#include <QPointer>
+#include <QWidget>
 
-/// The time in which a text box or the line editor tells the host that it lost the focus.
+class CInspectorDataWidget;
+
+/// The time in which a text box or a shared editor tells the host that it lost the focus.
 ///
 /// The toolkit is at work then on what was left and on the widget and the window that get the
 /// keyboard next, and does not survive their death: what the host removes of them is deleted when
@@ -25,5 +27,6 @@ private:
     static bool TakeOver(CInspectorDataWidget& widget);
 
     const QWidget& m_rLeft;
+    const QPointer<QWidget> m_pReached; ///< where this move goes; later ones may go elsewhere
     const CFocusMove* const m_pOuter;
 };

@@ -5,6 +5,7 @@
 
 #include "focusmove.h"
 #include "inuse.h"
+#include "panelrepaint.h"
 #include "text.h"
 
 #include <QGuiApplication>
@@ -123,7 +124,7 @@ void CInPlaceEdit::HideSilently()
 void CInPlaceEdit::Dispose()
 {
     m_pSink = nullptr;
-    if (m_iInUse == 0 && !CFocusMove::IsHolding(*this))
+    if (m_iInUse == 0 && !CFocusMove::IsHolding(*this) && !CPaintAhead::IsUnderWay())
     {
         delete this;
         return;

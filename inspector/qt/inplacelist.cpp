@@ -4,6 +4,7 @@
 
 #include "focusmove.h"
 #include "inuse.h"
+#include "panelrepaint.h"
 #include "text.h"
 
 #include <QKeyEvent>
@@ -33,7 +34,7 @@ std::shared_ptr<CInPlaceList> CInPlaceList::Create()
 void CInPlaceList::Dispose(CInPlaceList* list)
 {
     list->m_pSink = nullptr;
-    if (list->m_iInUse == 0 && !CFocusMove::IsHolding(*list))
+    if (list->m_iInUse == 0 && !CFocusMove::IsHolding(*list) && !CPaintAhead::IsUnderWay())
     {
         delete list;
         return;
@@ -167,10 +168,13 @@ bool CInPlaceList::event(QEvent* event)
     case QEvent::WindowDeactivate:
         return CancelWith(CInspectorDataElement::eEndEditFocusLost);
     case QEvent::FocusOut:
+    {
+        const CFocusMove moving(*this);
         // In a window of the host, the focus can go elsewhere without a deactivation.
         if (!isWindow() && static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason)
             CancelWith(CInspectorDataElement::eEndEditFocusLost);
         return QListWidget::event(event);
+    }
     case QEvent::ShortcutOverride:
         // A key that closes the list must not trigger a shortcut of the host as well.
         event->accept();

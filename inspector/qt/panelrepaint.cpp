@@ -50,6 +50,11 @@ bool CPaintAhead::Covers(const QWidget& control) const
     return (QRegion(seen) - m_region).isEmpty();
 }
 
+bool CPaintAhead::IsUnderWay()
+{
+    return g_pPaintAhead != nullptr;
+}
+
 void RepaintControl(QWidget& control)
 {
     const QWidget* content = control.isWindow() ? nullptr : control.parentWidget();

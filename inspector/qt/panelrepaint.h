@@ -18,6 +18,10 @@ public:
 
     bool Covers(const QWidget& control) const;
 
+    /// Whether some panel is. Its window goes through its children then, and must find them all
+    /// alive in the end.
+    static bool IsUnderWay();
+
 private:
     const QWidget* m_pContent;
     QRegion m_region;

@@ -10,10 +10,12 @@
 #include "wheelfilter.h"
 
 #include <QFontMetrics>
+#include <QPointer>
 #include <QScrollBar>
 
 #include <typeinfo>
 #include <utility>
+#include <vector>
 
 namespace
 {
@@ -44,11 +46,17 @@ CQTInspectorView::~CQTInspectorView()
 
 void CQTInspectorView::ReleaseControls()
 {
-    // Rows belong to their controller, which deletes their controls in its own time.
+    // Rows belong to their controller, which deletes their controls in its own time. A control that
+    // loses the focus tells the host, who may remove any of them meanwhile.
+    std::vector<QPointer<QWidget>> owned;
     for (const sInspectorHolder* holder : m_setControlHolders)
     {
         CInspectorDataWidget* control = holder->GetWidget();
-        auto* widget = control && control->m_pOwner ? dynamic_cast<QWidget*>(control) : nullptr;
+        if (control && control->m_pOwner)
+            owned.emplace_back(dynamic_cast<QWidget*>(control));
+    }
+    for (const QPointer<QWidget>& widget : owned)
+    {
         if (widget && widget->parentWidget() == m_pContent)
             widget->setParent(nullptr);
     }

@@ -64,7 +64,11 @@ public:
     void BuildInspector() override {}
     void RefreshInspector() override {}
     void HandleDirtyItem(sInspectorControllerData*, IDirtyControllerDataInfo*) override {}
-    void HandleControllerDirt(std::vector<IDirtyControllerDataInfo*>&) override {}
+    void HandleControllerDirt(std::vector<IDirtyControllerDataInfo*>&) override
+    {
+        if (const auto onDelivery = m_rHost.m_OnDelivery)
+            onDelivery();
+    }
     void CallCommand(const char* command, unsigned long) override
     {
         m_rHost.Add(std::string("command ") + command);
@@ -142,6 +146,11 @@ void CHostWindow::Clear()
 {
     m_vRows.clear();
     m_pController->ClearAllData();
+}
+
+void CHostWindow::Dirtify()
+{
+    m_pController->DirtifyController(nullptr);
 }
 
 CHostWindow::CCalls CHostWindow::TakeCalls()

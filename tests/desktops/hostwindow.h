@@ -44,8 +44,13 @@ public:
     QScrollBar& ScrollBar();
     QWidget& Canvas() { return *m_pCanvas; }
 
+    /// Marks the panel as changed: the panel is painted soon, and m_OnDelivery runs then.
+    void Dirtify();
+
     /// Runs when an edit of any row has ended, before the panel goes on.
     std::function<void()> m_OnEnd;
+    /// Runs when the panel is painted after Dirtify.
+    std::function<void()> m_OnDelivery;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

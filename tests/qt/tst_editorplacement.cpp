@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QInputMethodEvent>
 #include <QMenu>
+#include <QPointer>
 #include <QScrollBar>
 #include <QSplitter>
 #include <QTest>
@@ -435,6 +436,52 @@ TEST_F(ChildEditor, DiesWithTheWindowAndItsRows)
     QCoreApplication::processEvents();
 }
 
+TEST_F(ChildEditor, OutlivesThePaintingThatRemovesItsLastField)
+{
+    Click(*m_pHost, "a");
+    const QPointer<QWidget> editor = &Editor();
+    m_pHost->m_OnDelivery = [this] { m_pHost->Clear(); };
+    m_pHost->Dirtify();
+    m_pHost->repaint();
+    EXPECT_TRUE(CQTSimpleDataWidget::g_pInPlace == nullptr);
+    ASSERT_FALSE(editor.isNull());
+    EXPECT_TRUE(editor->isHidden());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(editor.isNull());
+}
+
+TEST_F(ChildEditor, MovesToAnotherWindowWhileItsOwnIsPainted)
+{
+    CHostWindow other;
+    Activate(other);
+    Activate(*m_pHost);
+    Click(*m_pHost, "a");
+    m_pHost->m_OnDelivery = [&other] { other.Field("b").StartEditing(); };
+    m_pHost->Dirtify();
+    m_pHost->repaint();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(m_pHost->TakeCalls(), CCalls({"a ended 4"}));
+    EXPECT_EQ(Editor().parentWidget(), &other);
+    EXPECT_TRUE(Editor().isVisible());
+    EXPECT_TRUE(Editor().updatesEnabled());
+}
+
+TEST_F(ChildEditor, MovesToAnotherFieldWhileItsWindowIsPainted)
+{
+    Click(*m_pHost, "a");
+    m_pHost->m_OnDelivery = [this] { m_pHost->Field("b").StartEditing(); };
+    m_pHost->Dirtify();
+    m_pHost->repaint();
+    m_pHost->m_OnDelivery = {};
+    QCoreApplication::processEvents();
+    EXPECT_EQ(m_pHost->TakeCalls(), CCalls({"a ended 4"}));
+    EXPECT_EQ(Editor().geometry(), RectIn(*m_pHost, m_pHost->Row("b")));
+    EXPECT_TRUE(Editor().updatesEnabled());
+    Type(*m_pHost, "12");
+    Press(*m_pHost, Qt::Key_Return);
+    EXPECT_EQ(m_pHost->TakeCalls(), CCalls({"b changed 12", "b ended 1"}));
+}
+
 TEST_F(ChildEditor, OutlivesAWindowWhoseRowsDo)
 {
     auto window = std::make_unique<QWidget>();
@@ -579,6 +626,34 @@ TEST_F(ChildList, ClosesWhenTheHostTakesTheFocus)
     m_pHost->Row("g").setFocus();
     EXPECT_EQ(m_pHost->TakeCalls(), CCalls({"d ended 4"}));
     EXPECT_TRUE(m_pHost->Row("g").hasFocus());
+}
+
+TEST_F(ChildList, LetsTheHostRemoveTheRowThatTheFocusGoesTo)
+{
+    Click(*m_pHost, "d");
+    m_pHost->m_OnEnd = [this] { m_pHost->Clear(); };
+    const QPointer<QWidget> box = &m_pHost->Row("g");
+    box.data()->setFocus();
+    EXPECT_EQ(m_pHost->TakeCalls(), CCalls({"d ended 4"}));
+    ASSERT_FALSE(box.isNull());
+    EXPECT_TRUE(box->isHidden());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(box.isNull());
+    EXPECT_TRUE(CQTEnumDataWidget::g_pInPlaceList == nullptr);
+}
+
+TEST_F(ChildList, OutlivesThePaintingThatRemovesItsLastRow)
+{
+    Click(*m_pHost, "d");
+    const QPointer<QWidget> list = &List();
+    m_pHost->m_OnDelivery = [this] { m_pHost->Clear(); };
+    m_pHost->Dirtify();
+    m_pHost->repaint();
+    EXPECT_TRUE(CQTEnumDataWidget::g_pInPlaceList == nullptr);
+    ASSERT_FALSE(list.isNull());
+    EXPECT_TRUE(list->isHidden());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(list.isNull());
 }
 
 TEST_F(ChildList, DiesOnceWithTheWindowAndItsRows)

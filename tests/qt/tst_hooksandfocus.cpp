@@ -121,6 +121,57 @@ TEST_F(HooksAndFocus, ABoxThatRemovesItselfWhenItIsLeftIsDeletedAfterwards)
     EXPECT_TRUE(box.m_pWidget.isNull());
 }
 
+TEST_F(HooksAndFocus, ABoxThatTheHostTurnsTheFocusAwayFromIsDeletedAfterwards)
+{
+    const auto left = AddBox("left");
+    const auto next = AddBox("next");
+    const auto third = AddBox("third");
+    left.m_pWidget->setFocus();
+    left.m_pWidget->setPlainText(QStringLiteral("typed"));
+    left.m_pElement->m_fnInternalValueChanged = [&]
+    {
+        third.m_pWidget->setFocus();
+        m_controller.RemoveItem(next.m_pElement);
+    };
+    QWidget* receiver = next.m_pWidget;
+    receiver->setFocus();
+    EXPECT_EQ(m_log.Count("left.InternalValueChanged"), 1u);
+    EXPECT_TRUE(third.m_pWidget->hasFocus());
+    ASSERT_FALSE(next.m_pWidget.isNull());
+    EXPECT_TRUE(next.m_pWidget->isHidden());
+    FinishDeletions();
+    EXPECT_TRUE(next.m_pWidget.isNull());
+}
+
+TEST_F(HooksAndFocus, ABoxThatIsLeftAsItsViewDiesMayClearAllRows)
+{
+    auto view = std::make_unique<CQTInspectorView>();
+    CRecordingController other(m_log);
+    other.SetInspectorView(view.get());
+    view->SetController(&other);
+    auto* element = new CElement(m_log, "box");
+    const QPointer<CQTSimpleTextWidget> box = new CQTSimpleTextWidget;
+    other.AddItem(element, box, nullptr);
+    view->AddElement(element, box, "box", nullptr, nullptr);
+    auto* neighbour = new CElement(m_log, "neighbour");
+    const QPointer<CQTSimpleDataWidget> field = new CQTSimpleDataWidget;
+    other.AddItem(neighbour, field, nullptr);
+    view->AddElement(neighbour, field, "neighbour", nullptr, nullptr);
+    view->ResizeInspector(300, 400);
+    view->show();
+    QApplication::setActiveWindow(view.get());
+    box->setFocus();
+    ASSERT_TRUE(box->hasFocus());
+    box->setPlainText(QStringLiteral("typed"));
+    element->m_fnInternalValueChanged = [&] { other.ClearAllData(); };
+    view.reset();
+    EXPECT_EQ(m_log.Count("box.InternalValueChanged"), 1u);
+    EXPECT_TRUE(other.m_lItems.empty());
+    FinishDeletions();
+    EXPECT_TRUE(box.isNull());
+    EXPECT_TRUE(field.isNull());
+}
+
 TEST_F(HooksAndFocus, AnEditorThatHasTheKeyboardIsDeletedAfterItsLastField)
 {
     const auto field = AddField("field");
