@@ -195,4 +195,6 @@ private:
     CDelivery* m_pDelivery = nullptr;
     CWalk* m_pWalks = nullptr;
     CFocusTarget* m_pFocusTargets = nullptr;
+    /// True once the host's part of the object is gone, and its handlers with it.
+    bool m_bDying = false;
 };

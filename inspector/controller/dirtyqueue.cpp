@@ -30,8 +30,9 @@ void CInspectorController::DirtifyController(IDirtyControllerDataInfo* info)
 
 void CInspectorController::HandleDirtyItems()
 {
-    // The notices are already on their way when a handler makes the view draw.
-    if (m_pDelivery)
+    // The notices are already on their way when a handler makes the view draw, and without a
+    // handler when a control that dies with its controller makes the host of another row do so.
+    if (m_pDelivery || m_bDying)
         return;
     CDelivery delivery(*this);
     if (!m_vControllerDirt.empty())

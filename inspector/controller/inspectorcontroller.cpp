@@ -35,6 +35,7 @@ CInspectorController& CInspectorController::operator=(const CInspectorController
 
 CInspectorController::~CInspectorController()
 {
+    m_bDying = true;
     ClearAllData();
     SetInspectorView(nullptr);
     for (CInspectorView* view : m_vReferrers)

@@ -5,7 +5,8 @@
 
 class CInspectorDataWidget;
 
-/// The time in which a text box or a shared editor tells the host that it lost the focus.
+/// The time in which a text box or a shared editor tells the host that it lost the focus or that
+/// its window did.
 ///
 /// The toolkit is at work then on what was left and on the widget and the window that get the
 /// keyboard next, and does not survive their death: what the host removes of them is deleted when

@@ -156,9 +156,12 @@ bool CInPlaceEdit::event(QEvent* event)
         // NOLINTNEXTLINE(bugprone-parent-virtual-call)
         return QWidget::event(event);
     case QEvent::WindowDeactivate:
+    {
+        const CFocusMove moving(*this);
         if (m_bEditing)
             return EndWith(CInspectorDataElement::eEndEditFocusLost);
         break;
+    }
     case QEvent::ShortcutOverride:
         // What is typed here belongs to the value, never to a shortcut of the host.
         event->accept();

@@ -166,7 +166,10 @@ bool CInPlaceList::event(QEvent* event)
         m_Placement.ReturnKeyboard();
         return true;
     case QEvent::WindowDeactivate:
+    {
+        const CFocusMove moving(*this);
         return CancelWith(CInspectorDataElement::eEndEditFocusLost);
+    }
     case QEvent::FocusOut:
     {
         const CFocusMove moving(*this);

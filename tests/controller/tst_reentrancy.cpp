@@ -34,6 +34,7 @@ protected:
     }
 
     CRecordingHost m_host;
+    CRecordingController* m_pDying = nullptr;
     std::vector<CRecordingHost::sRow> m_vRows;
 };
 
@@ -251,6 +252,21 @@ TEST_F(Reentrancy, ADyingControlMayRemoveARowThatIsAboutToBeCleared)
     host.m_pController->ClearAllData();
     EXPECT_EQ(host.m_log.Take(), CRecordingHost::End("a") + CRecordingHost::End("c") +
                                      CRecordingHost::End("b") + CCalls{"view.RemoveAll()"});
+}
+
+TEST_F(Reentrancy, ADyingControllerDeliversNothingThoughAControlMakesTheViewDraw)
+{
+    m_vRows[1].m_pWidget->m_fnDestroyed = [this]
+    {
+        CRecordingController& controller = *m_pDying;
+        controller.DirtifyController(new CRecordingNotice(m_host.m_log, "late"));
+        controller.HandleDirtyItems();
+    };
+    m_host.m_log.Clear();
+    m_pDying = m_host.m_pController.release();
+    delete m_pDying;
+    EXPECT_EQ(m_host.m_log.Containing("Handle"), CCalls{});
+    EXPECT_EQ(m_host.m_log.Count("late.~()"), 1u);
 }
 
 TEST_F(Reentrancy, ADyingControlMayRemoveAnotherRow)

@@ -186,6 +186,25 @@ TEST_F(HooksAndFocus, AnEditorThatHasTheKeyboardIsDeletedAfterItsLastField)
     EXPECT_TRUE(editor.isNull());
 }
 
+TEST_F(HooksAndFocus, AListThatTheKeyboardIsTakenFromOutlivesTheEndOfTheOtherEdit)
+{
+    const auto field = AddField("field");
+    const auto choice = AddChoice("choice");
+    Press(choice.m_pWidget);
+    const QPointer<QWidget> list = CQTEnumDataWidget::g_pInPlaceList.get();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(list));
+    // The window gets the keyboard from the list while the toolkit takes the editor to have it.
+    m_view.activateWindow();
+    field.m_pWidget->StartEditing();
+    QApplication::setActiveWindow(CQTSimpleDataWidget::g_pInPlace);
+    field.m_pElement->m_fnOnEndEditing = [this] { m_controller.ClearAllData(); };
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Ends("field"), 1u);
+    EXPECT_TRUE(m_controller.m_lItems.empty());
+    FinishDeletions();
+    EXPECT_TRUE(list.isNull());
+}
+
 TEST_F(HooksAndFocus, TheListGoesWithTheLastRowAlsoWhenThatRowIsBeingPressed)
 {
     const auto row = AddChoice("row");
