@@ -8,10 +8,14 @@
 #include <QApplication>
 #include <QWindow>
 
+#include <utility>
+#include <vector>
+
 namespace
 {
 
 const CFocusMove* g_pInnermost = nullptr;
+std::vector<QPointer<QWidget>> g_vHeld;
 
 } // namespace
 
@@ -25,8 +29,19 @@ CFocusMove::CFocusMove(const QWidget& left)
 CFocusMove::~CFocusMove()
 {
     g_pInnermost = m_pOuter;
-    if (!m_pOuter)
-        g_pfnTakeOver = nullptr;
+    if (m_pOuter)
+        return;
+    g_pfnTakeOver = nullptr;
+    for (const QPointer<QWidget>& widget : std::exchange(g_vHeld, {}))
+    {
+        if (widget)
+            widget->deleteLater();
+    }
+}
+
+bool CFocusMove::IsUnderWay()
+{
+    return g_pInnermost != nullptr;
 }
 
 bool CFocusMove::IsHolding(const QWidget& editor)
@@ -52,7 +67,8 @@ bool CFocusMove::TakeOver(CInspectorDataWidget& widget)
         return false;
     if (auto* box = dynamic_cast<CQTSimpleTextWidget*>(control))
         box->m_bRowGone = true;
-    control->deleteLater();
+    // Not yet deleteLater: the host may run an event loop in its hook.
+    g_vHeld.emplace_back(control);
     control->hide();
     return true;
 }

@@ -23,6 +23,9 @@ public:
     /// focus moves, and as long as the window has the keyboard.
     static bool IsHolding(const QWidget& editor);
 
+    /// Whether one lives.
+    static bool IsUnderWay();
+
 private:
     static bool IsHolding(const QWidget* control, const QWidget* part);
     static bool TakeOver(CInspectorDataWidget& widget);

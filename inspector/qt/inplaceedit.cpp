@@ -137,7 +137,7 @@ bool CInPlaceEdit::event(QEvent* event)
 {
     // The end of what Dispose put off; there is no editor afterwards.
     if (event->type() == QEvent::DeferredDelete)
-        return QLineEdit::event(event);
+        return PutOffDeletion(*this, m_iInUse) || QLineEdit::event(event);
     const CInUse inUse(m_iInUse);
     switch (event->type())
     {

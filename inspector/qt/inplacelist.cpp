@@ -155,7 +155,7 @@ bool CInPlaceList::event(QEvent* event)
 {
     // The end of what Dispose put off; there is no editor afterwards.
     if (event->type() == QEvent::DeferredDelete)
-        return QListWidget::event(event);
+        return PutOffDeletion(*this, m_iInUse) || QListWidget::event(event);
     const CInUse inUse(m_iInUse);
     switch (event->type())
     {

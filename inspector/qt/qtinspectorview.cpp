@@ -29,6 +29,8 @@ constexpr int g_iRowsPerNotch = 3;
 CQTInspectorView::CQTInspectorView()
     : m_pContent(new QWidget(this)), m_pScrollBar(new QScrollBar(this))
 {
+    // It lies over labels and frames: what a style sheet fills all widgets with must not hide them.
+    m_pContent->setAttribute(Qt::WA_NoSystemBackground);
     m_pContent->show();
     m_pScrollBar->hide();
     connect(m_pScrollBar, SIGNAL(valueChanged(int)), this, SLOT(SliderValueChanged(int)));
@@ -46,14 +48,15 @@ CQTInspectorView::~CQTInspectorView()
 
 void CQTInspectorView::ReleaseControls()
 {
-    // Rows belong to their controller, which deletes their controls in its own time. A control that
-    // loses the focus tells the host, who may remove any of them meanwhile.
+    // Rows belong to their controller, which deletes their controls in its own time, also those
+    // that have no place in the tree any more. A control that loses the focus tells the host, who
+    // may remove any of them meanwhile.
     std::vector<QPointer<QWidget>> owned;
-    for (const sInspectorHolder* holder : m_setControlHolders)
+    for (QObject* child : m_pContent->children())
     {
-        CInspectorDataWidget* control = holder->GetWidget();
+        const auto* control = dynamic_cast<CInspectorDataWidget*>(child);
         if (control && control->m_pOwner)
-            owned.emplace_back(dynamic_cast<QWidget*>(control));
+            owned.emplace_back(static_cast<QWidget*>(child));
     }
     for (const QPointer<QWidget>& widget : owned)
     {

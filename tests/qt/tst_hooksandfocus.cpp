@@ -143,6 +143,51 @@ TEST_F(HooksAndFocus, ABoxThatTheHostTurnsTheFocusAwayFromIsDeletedAfterwards)
     EXPECT_TRUE(next.m_pWidget.isNull());
 }
 
+TEST_F(HooksAndFocus, ABoxOnItsWayToTheFocusOutlivesAnEventLoopOfTheHost)
+{
+    const auto left = AddBox("left");
+    const auto next = AddBox("next");
+    left.m_pWidget->setFocus();
+    left.m_pWidget->setPlainText(QStringLiteral("typed"));
+    bool isAlive = false;
+    left.m_pElement->m_fnInternalValueChanged = [&]
+    {
+        m_controller.RemoveItem(next.m_pElement);
+        // What was put off inside of an event is due in the loop around it.
+        FinishDeletions();
+        isAlive = !next.m_pWidget.isNull();
+    };
+    QWidget* receiver = next.m_pWidget;
+    receiver->setFocus();
+    EXPECT_TRUE(isAlive);
+    FinishDeletions();
+    EXPECT_TRUE(next.m_pWidget.isNull());
+}
+
+TEST_F(HooksAndFocus, AnEditorThatIsDueForDeletionOutlivesAnEventLoopInAMoveOfTheFocus)
+{
+    const auto box = AddBox("box");
+    const auto field = AddField("field");
+    field.m_pWidget->StartEditing();
+    const QPointer<QWidget> editor = CQTSimpleDataWidget::g_pInPlace;
+    ASSERT_TRUE(QTest::qWaitForWindowActive(editor));
+    m_controller.RemoveItem(field.m_pElement);
+    ASSERT_FALSE(editor.isNull());
+    QApplication::setActiveWindow(&m_view);
+    box.m_pWidget->setFocus();
+    box.m_pWidget->setPlainText(QStringLiteral("typed"));
+    bool isAlive = false;
+    box.m_pElement->m_fnInternalValueChanged = [&]
+    {
+        FinishDeletions();
+        isAlive = !editor.isNull();
+    };
+    box.m_pWidget->clearFocus();
+    EXPECT_EQ(m_log.Count("box.InternalValueChanged"), 1u);
+    EXPECT_TRUE(isAlive);
+    EXPECT_TRUE(QTest::qWaitFor([&editor] { return editor.isNull(); }));
+}
+
 TEST_F(HooksAndFocus, ABoxThatIsLeftAsItsViewDiesMayClearAllRows)
 {
     auto view = std::make_unique<CQTInspectorView>();

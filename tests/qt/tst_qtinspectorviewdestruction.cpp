@@ -86,6 +86,21 @@ TEST(QtInspectorViewDestruction, LeavesRowsToTheirController)
     EXPECT_TRUE(control.isNull());
 }
 
+TEST(QtInspectorViewDestruction, LeavesRowsToTheirControllerThoughTheTreeIsEmpty)
+{
+    sMortalPanel panel;
+    const QPointer<CTestControl> control = new CTestControl(panel.m_log, "control");
+    auto* element = new CSimpleDataElement;
+    panel.m_controller.AddItem(element, control, nullptr);
+    panel.m_pView->AddElement(element, control, "row", nullptr, nullptr);
+    panel.m_pView->RemoveAll();
+    panel.m_pView.reset();
+    ASSERT_FALSE(control.isNull());
+    EXPECT_EQ(control->parentWidget(), nullptr);
+    panel.m_controller.ClearAllData();
+    EXPECT_TRUE(control.isNull());
+}
+
 TEST(QtInspectorViewDestruction, LeavesAControlWhereTheHostMovedIt)
 {
     sMortalPanel panel;

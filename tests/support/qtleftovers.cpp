@@ -7,9 +7,11 @@
 #include <qttextencoding.h>
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QEvent>
 #include <QWidget>
 
+#include <algorithm>
 #include <cstring>
 
 namespace
@@ -27,6 +29,17 @@ void ExpectNoWindow()
     }
 }
 
+const QWidget* FindSharedEditor()
+{
+    const QWidgetList widgets = QApplication::allWidgets();
+    const auto editor =
+        std::find_if(widgets.begin(), widgets.end(),
+                     [](const QWidget* widget) {
+                         return std::strncmp(widget->metaObject()->className(), "CInPlace", 8) == 0;
+                     });
+    return editor == widgets.end() ? nullptr : *editor;
+}
+
 void ExpectNoSharedEditor()
 {
     EXPECT_EQ(CQTSimpleDataWidget::g_iInPlaceRefCount, 0) << "a field was left";
@@ -34,12 +47,11 @@ void ExpectNoSharedEditor()
     EXPECT_TRUE(CQTEnumDataWidget::g_pInPlaceList == nullptr) << "the list was left";
     // Those that were dropped while they were in use are freed a little later.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    const QWidgetList widgets = QApplication::allWidgets();
-    for (const QWidget* widget : widgets)
-    {
-        const char* name = widget->metaObject()->className();
-        EXPECT_NE(std::strncmp(name, "CInPlace", 8), 0) << "an editor was left: " << name;
-    }
+    QElapsedTimer waiting;
+    for (waiting.start(); FindSharedEditor() && !waiting.hasExpired(1000);)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    if (const QWidget* editor = FindSharedEditor())
+        ADD_FAILURE() << "an editor was left: " << editor->metaObject()->className();
 }
 
 } // namespace
