@@ -52,4 +52,6 @@ private:
     QString m_sShown;
     /// The box outlives its row because the toolkit is at work on it: nobody is told anything.
     bool m_bRowGone = false;
+    /// The text has a word so long that the toolkit is told to break words anywhere.
+    bool m_bBreaksAnywhere = false;
 };

@@ -7,8 +7,31 @@
 #include "text.h"
 
 #include <QPointer>
+#include <QTextOption>
 
+#include <algorithm>
 #include <cassert>
+#include <utility>
+
+namespace
+{
+
+/// The toolkit takes four times as long to break a word that is twice as long, minutes for a
+/// megabyte, unless it may break it anywhere.
+constexpr int g_iLongWord = 10000;
+
+bool HasLongWord(const QString& text)
+{
+    int length = 0;
+    return std::any_of(text.begin(), text.end(),
+                       [&length](QChar character)
+                       {
+                           length = character.isSpace() ? 0 : length + 1;
+                           return length > g_iLongWord;
+                       });
+}
+
+} // namespace
 
 CQTSimpleTextWidget::CQTSimpleTextWidget()
 {
@@ -33,7 +56,17 @@ void CQTSimpleTextWidget::OnValueChange(sValueChangeInfo*)
     assert(element && "CQTSimpleTextWidget::OnValueChange: no text element is bound");
     std::string text;
     element->GetDataAsString(text);
-    setText(ToQString(text));
+    const QString shown = ToQString(text);
+    // Neither the text that goes nor the one that comes is broken in the slow way.
+    const bool isLong = HasLongWord(shown);
+    if (isLong && wordWrapMode() == QTextOption::WrapAtWordBoundaryOrAnywhere)
+    {
+        setWordWrapMode(QTextOption::WrapAnywhere);
+        m_bBreaksAnywhere = true;
+    }
+    setText(shown);
+    if (!isLong && std::exchange(m_bBreaksAnywhere, false))
+        setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     m_sShown = toPlainText();
     if (ToNarrow(m_sShown) == text)
         text.clear();

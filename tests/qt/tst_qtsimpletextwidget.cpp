@@ -289,6 +289,31 @@ TEST_F(TextWidget, KeepsATextOfAMegabyte)
     EXPECT_TRUE(Text() == text);
 }
 
+TEST_F(TextWidget, BreaksLongWordsAnywhereBecauseTheToolkitTakesForeverOtherwise)
+{
+    const auto modeOf = [this](std::size_t letters)
+    {
+        Load("before " + std::string(letters, 'w'));
+        return m_box.wordWrapMode();
+    };
+    EXPECT_EQ(modeOf(10000), QTextOption::WrapAtWordBoundaryOrAnywhere);
+    EXPECT_EQ(modeOf(10001), QTextOption::WrapAnywhere);
+    EXPECT_EQ(modeOf(20000), QTextOption::WrapAnywhere);
+    EXPECT_EQ(modeOf(5), QTextOption::WrapAtWordBoundaryOrAnywhere);
+}
+
+TEST_F(TextWidget, LeavesTheWrappingThatAHostWants)
+{
+    for (const auto mode : {QTextOption::NoWrap, QTextOption::WordWrap, QTextOption::WrapAnywhere})
+    {
+        m_box.setWordWrapMode(mode);
+        Load(std::string(10001, 'w'));
+        EXPECT_EQ(m_box.wordWrapMode(), mode);
+        Load("short");
+        EXPECT_EQ(m_box.wordWrapMode(), mode);
+    }
+}
+
 TEST_F(TextWidget, HandsTheTextToItsElementWhenItLosesTheFocusAndNotBefore)
 {
     ASSERT_NO_FATAL_FAILURE(ShowWithNeighbour());
