@@ -12,11 +12,18 @@ inline QPoint ReachablePlace(int x, int y)
     return {std::clamp(x, -farthest, farthest), std::clamp(y, -farthest, farthest)};
 }
 
+/// The nearest size with which a rectangle at such a place has its far corner in 32 bits, too.
+inline QSize ReachableSize(int width, int height)
+{
+    constexpr int most = 1 << 29;
+    return {std::clamp(width, -most, most), std::clamp(height, -most, most)};
+}
+
 /// The layout operations of a data widget, which all forward to its Qt base.
 #define INSPECTOR_LAYOUT_OPERATIONS(Widget)                                                        \
     void Widget::ResizeWidget(int width, int height)                                               \
     {                                                                                              \
-        ResizeControl(*this, QSize(width, height), typeid(Widget));                                \
+        ResizeControl(*this, ReachableSize(width, height), typeid(Widget));                        \
     }                                                                                              \
     void Widget::MoveWidget(int x, int y)                                                          \
     {                                                                                              \
