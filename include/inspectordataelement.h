@@ -59,8 +59,9 @@ public:
     /// row; it must not add, remove or clear rows.
     virtual void Disconnect();
 
-    /// Makes the widget read the element again (OnValueChange with a null notice).
-    /// The element must be bound.
+    /// Makes the widget read the element again (OnValueChange with a null notice). Buttons and
+    /// static texts are shown anew by a repaint of their widgets instead. The element must be
+    /// bound.
     virtual void UpdateData();
 
     /// Whether the user may not change the value.

@@ -50,10 +50,12 @@ public:
     /// The type string of the widget, a constant such as "qt.simple.edit".
     virtual const char* GetType() = 0;
 
-    /// Opens the widget's editor, if it has one; Tab and Shift+Tab arrive here.
+    /// For widgets that have an editor: open it. Tab and Shift+Tab arrive here. Does nothing here,
+    /// so Tab ends at such a widget.
     virtual void StartEditing();
 
-    /// Reads the element again and repaints. \p info may be null.
+    /// For the widget: read the element again and repaint. \p info may be null. Does nothing here,
+    /// nor in buttons and static texts, which read their elements when they are painted.
     virtual void OnValueChange(sValueChangeInfo* info);
     /// For widgets of the host that show structure; empty here. \p info may be null.
     virtual void OnTopoChange(sTopoChangeInfo* info);

@@ -93,6 +93,24 @@ TEST(Guide, GivesTheWholeOfTheFirstProgramStepByStep)
     EXPECT_EQ(Text(shown), Text(program));
 }
 
+TEST(Guide, LeadsToEveryExampleAndEachIsShortAndStartedByTheTests)
+{
+    const std::string guide = Text(ReadLines((root / "docs/getting-started.md").string()));
+    const std::string started = Text(ReadLines((root / "examples/numbered.cmake").string()));
+    std::size_t examples = 0;
+    for (const fs::directory_entry& entry : fs::directory_iterator(root / "examples"))
+    {
+        if (entry.path().extension() != ".cpp")
+            continue;
+        SCOPED_TRACE(entry.path().string());
+        ++examples;
+        EXPECT_LT(ReadLines(entry.path().string()).size(), 100u);
+        EXPECT_NE(started.find(entry.path().stem().string()), std::string::npos);
+        EXPECT_NE(guide.find(entry.path().filename().string()), std::string::npos);
+    }
+    EXPECT_GE(examples, 16u);
+}
+
 TEST(Guide, NamesTheLanguageOfEveryBlockOfCode)
 {
     for (const fs::path& page : Pages())
