@@ -1,6 +1,7 @@
-# Debian packages: `cpack -G DEB` gives a run-time and a development package. Those for Qt 5 have names
-# of their own. With a suffix ("-qt5") their files have other names as well, and both can be installed;
-# without one they stand in each other's way, and say so.
+# Debian packages: `cpack -G DEB` gives a run-time and a development package, or only the second one for
+# a static library. Those for Qt 5 have names of their own. With a suffix ("-qt5") their files have
+# other names as well, and both can be installed; without one they stand in each other's way, and say
+# so.
 set(INSPECTOR_PACKAGE_SUFFIX "${INSPECTOR_SUFFIX}")
 if(INSPECTOR_QT EQUAL 5)
     set(INSPECTOR_QT_DEV_PACKAGE qtbase5-dev)
@@ -30,7 +31,14 @@ set(CPACK_STRIP_FILES ON)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
-set(CPACK_COMPONENTS_ALL runtime dev)
+if(INSPECTOR_LIBRARY_TYPE STREQUAL "STATIC")
+    set(CPACK_COMPONENTS_ALL dev)
+    set(INSPECTOR_DEV_DEPENDS ${INSPECTOR_QT_DEV_PACKAGE})
+else()
+    set(CPACK_COMPONENTS_ALL runtime dev)
+    set(INSPECTOR_DEV_DEPENDS
+        "${INSPECTOR_RUNTIME_PACKAGE} (= ${PROJECT_VERSION}), ${INSPECTOR_QT_DEV_PACKAGE}")
+endif()
 set(CPACK_COMPONENTS_GROUPING IGNORE)
 
 set(CPACK_DEB_COMPONENT_INSTALL ON)
@@ -46,12 +54,11 @@ set(CPACK_COMPONENT_RUNTIME_DESCRIPTION
 edits the parameters of an object. This package holds the shared library.")
 set(CPACK_DEBIAN_DEV_PACKAGE_NAME ${INSPECTOR_DEV_PACKAGE})
 set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)
-set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS
-    "${INSPECTOR_RUNTIME_PACKAGE} (= ${PROJECT_VERSION}), ${INSPECTOR_QT_DEV_PACKAGE}")
+set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS "${INSPECTOR_DEV_DEPENDS}")
 set(CPACK_COMPONENT_DEV_DESCRIPTION
     "A vertical, scrollable panel of labelled controls that shows and
-edits the parameters of an object. This package holds the headers and
-the files for CMake and pkg-config.")
+edits the parameters of an object. This package holds the headers, the
+files for CMake and pkg-config, the guide and examples.")
 
 # The files that every Debian package carries, and the notice to the linker's cache.
 string(TIMESTAMP INSPECTOR_PACKAGE_DATE "%a, %d %b %Y %H:%M:%S +0000" UTC)

@@ -68,6 +68,22 @@ QImage Controls(qreal scale)
     return panel.Draw(scale);
 }
 
+QImage ReadOnly()
+{
+    CSamplePanel panel;
+    sNode* group = panel.Group("Read-only");
+    for (CInspectorDataElement* element :
+         {&panel.Text("Text", "Checkerboard", group), &panel.Bool("Yes or no", true, group),
+          &panel.Enum("Choice", "multiply", group),
+          &panel.TextBox("Notes",
+                         "More lines\nthan the box\nhas room for,\nso that it\nhas a scroll "
+                         "bar\nat its\nright edge.",
+                         group)})
+        element->SetReadOnly(true);
+    panel.m_View.ResizeInspector(320, -1);
+    return panel.Draw();
+}
+
 QImage Groups(int height)
 {
     CSamplePanel panel;
@@ -168,6 +184,7 @@ std::vector<sPicture> GalleryPictures()
         {QStringLiteral("controls-dark"),
          [] { return DrawIn(DarkPalette(), [] { return Controls(1); }); }},
         {QStringLiteral("controls-scale-2"), [] { return Controls(2); }},
+        {QStringLiteral("read-only"), ReadOnly},
         {QStringLiteral("groups"), [] { return Groups(-1); }},
         {QStringLiteral("groups-dark"),
          [] { return DrawIn(DarkPalette(), [] { return Groups(-1); }); }},

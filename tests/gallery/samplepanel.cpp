@@ -38,21 +38,24 @@ CSamplePanel::sNode* CSamplePanel::Container(const char* name, sNode* parent)
     return m_View.AddSingleLineContainer(name, nullptr, parent);
 }
 
-void CSamplePanel::Text(const char* label, const char* value, sNode* parent, sRequest* request)
+CInspectorDataElement& CSamplePanel::Text(const char* label, const char* value, sNode* parent,
+                                          sRequest* request)
 {
     auto* element = Add(new CSimpleDataElement, new CQTSimpleDataWidget, label, parent, request);
     element->SetStrCurrentValue(value);
     element->UpdateData();
+    return *element;
 }
 
-void CSamplePanel::Bool(const char* label, bool value, sNode* parent)
+CInspectorDataElement& CSamplePanel::Bool(const char* label, bool value, sNode* parent)
 {
     auto* element = Add(new CBoolDataElement, new CQTSimpleBoolWidget, label, parent);
     element->SetValue(value);
     element->UpdateData();
+    return *element;
 }
 
-void CSamplePanel::Enum(const char* label, const char* value, sNode* parent)
+CInspectorDataElement& CSamplePanel::Enum(const char* label, const char* value, sNode* parent)
 {
     auto* element = Add(new CEnumDataElement, new CQTEnumDataWidget, label, parent);
     element->CreateEnum();
@@ -61,6 +64,7 @@ void CSamplePanel::Enum(const char* label, const char* value, sNode* parent)
     element->AddEnum("screen", "Screen");
     element->SetStrCurrentValue(value);
     element->UpdateData();
+    return *element;
 }
 
 void CSamplePanel::Button(const char* label, const char* text, bool enabled, sNode* parent,
@@ -76,11 +80,12 @@ void CSamplePanel::Static(const char* label, const char* text, int flags, sNode*
     Add(new CStaticDataElement(text, flags), new CQTStaticWidget, label, parent);
 }
 
-void CSamplePanel::TextBox(const char* label, const char* value, sNode* parent)
+CInspectorDataElement& CSamplePanel::TextBox(const char* label, const char* value, sNode* parent)
 {
     auto* element = Add(new CSimpleDataElement, new CQTSimpleTextWidget, label, parent);
     element->SetStrCurrentValue(value);
     element->UpdateData();
+    return *element;
 }
 
 QImage CSamplePanel::Draw(qreal scale)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <inspectorcontroller.h>
+#include <inspectordataelement.h>
 #include <qtinspectorview.h>
 
 #include <QWidget>
@@ -26,14 +27,15 @@ public:
 
     sNode* Group(const char* name, sNode* parent = nullptr);
     sNode* Container(const char* name, sNode* parent);
-    void Text(const char* label, const char* value, sNode* parent, sRequest* request = nullptr);
-    void Bool(const char* label, bool value, sNode* parent);
+    CInspectorDataElement& Text(const char* label, const char* value, sNode* parent,
+                                sRequest* request = nullptr);
+    CInspectorDataElement& Bool(const char* label, bool value, sNode* parent);
     /// An enumeration of three blend modes with the given value.
-    void Enum(const char* label, const char* value, sNode* parent);
+    CInspectorDataElement& Enum(const char* label, const char* value, sNode* parent);
     void Button(const char* label, const char* text, bool enabled, sNode* parent,
                 sRequest* request = nullptr);
     void Static(const char* label, const char* text, int flags, sNode* parent);
-    void TextBox(const char* label, const char* value, sNode* parent);
+    CInspectorDataElement& TextBox(const char* label, const char* value, sNode* parent);
 
     /// The panel as it is on the screen: \p scale pixels for each of its own.
     QImage Draw(qreal scale = 1);
