@@ -26,6 +26,7 @@ public:
         controller.SetInspectorView(&m_View);
         m_View.SetController(&controller);
         m_View.setParent(this);
+        m_View.setAutoFillBackground(true); // lets it scroll by moving its pixels
         m_View.move(0, top);
         resize(320, 400);
     }

@@ -137,12 +137,14 @@ void CQTInspectorView::SliderValueChanged(int)
 QRect CQTInspectorView::FindMovablePixels() const
 {
     // A derived class may draw what does not scroll, and a panel inside of another widget lies on
-    // what that one draws.
-    if (typeid(*this) != typeid(CQTInspectorView) || !isWindow() || !m_sPreviewMessage.empty() ||
+    // what that one draws, unless it fills its own background.
+    const bool isFilled = isWindow() || autoFillBackground();
+    if (typeid(*this) != typeid(CQTInspectorView) || !isFilled || !m_sPreviewMessage.empty() ||
         m_bRepaintAsked || !isVisible() || !updatesEnabled())
         return {};
-    const bool isPlain = palette().brush(QPalette::Window).style() == Qt::SolidPattern &&
-                         !autoFillBackground() && !testAttribute(Qt::WA_StyledBackground) &&
+    const QBrush fill = palette().brush(autoFillBackground() ? backgroundRole() : QPalette::Window);
+    const bool isPlain = fill.style() == Qt::SolidPattern && fill.isOpaque() &&
+                         !testAttribute(Qt::WA_StyledBackground) &&
                          !testAttribute(Qt::WA_NoSystemBackground) && !graphicsEffect();
     if (!isPlain)
         return {};

@@ -324,6 +324,56 @@ TEST(ControlPlacement, AScrollStepInAnotherWidgetShowsWhatARepaintShows)
     ExpectThatScrollingShowsWhatARepaintShows(panel);
 }
 
+TEST(ControlPlacement, APanelInAnotherWidgetThatFillsItsBackgroundPaintsOnlyWhatCameIntoSight)
+{
+    QWidget window;
+    window.resize(320, 420);
+    CPlainPanel panel(&window);
+    panel.m_view.move(10, 10);
+    panel.m_view.setAutoFillBackground(true);
+    panel.Show();
+    CWatcher watcher(panel.m_view);
+    panel.ScrollTo(25);
+    const QRegion scrollBar(280, 0, 20, 400);
+    EXPECT_EQ(AreaOf(watcher.m_region - scrollBar), 280 * 25);
+    panel.ExpectThatTheScreenIsRight();
+}
+
+TEST(ControlPlacement, AScrollStepInAnotherWidgetLeavesWhatLiesOverThePanelInPlace)
+{
+    QWidget window;
+    window.resize(320, 420);
+    CPlainPanel panel(&window);
+    panel.m_view.move(10, 10);
+    panel.m_view.setAutoFillBackground(true);
+    QWidget overlay(&window);
+    overlay.setGeometry(50, 60, 70, 80);
+    overlay.setAutoFillBackground(true);
+    overlay.setPalette(QPalette(Qt::blue));
+    ExpectThatScrollingShowsWhatARepaintShows(panel);
+}
+
+TEST(ControlPlacement, AScrollStepLeavesAFilledBackgroundThatIsNotPlainInPlace)
+{
+    QLinearGradient gradient(0, 0, 0, 400);
+    gradient.setColorAt(0, Qt::white);
+    gradient.setColorAt(1, Qt::darkGreen);
+    for (const QBrush& brush : {QBrush(gradient), QBrush(QColor(0, 0, 200, 100))})
+    {
+        QWidget window;
+        window.resize(320, 420);
+        window.setPalette(QPalette(Qt::yellow));
+        CPlainPanel panel(&window);
+        panel.m_view.move(10, 10);
+        QPalette palette = panel.m_view.palette();
+        palette.setBrush(QPalette::Base, brush);
+        panel.m_view.setPalette(palette);
+        panel.m_view.setBackgroundRole(QPalette::Base);
+        panel.m_view.setAutoFillBackground(true);
+        ExpectThatScrollingShowsWhatARepaintShows(panel);
+    }
+}
+
 TEST(ControlPlacement, AControlInSightIsToldOfEveryMove)
 {
     CPlainPanel panel;
