@@ -1,5 +1,6 @@
 #include "graphediting.h"
 
+#include <gegl/operationcatalog.h>
 #include <gegl/rendergraph.h>
 #include <render/renderer.h>
 
@@ -128,6 +129,43 @@ TEST_F(CRenderTest, TakesTheCanvasOfAPictureWithoutBoundsAndShrinksALargeOne)
     const QImage image = Picture(AddRed("6400", "3200")).m_image;
     ASSERT_EQ(image.size(), QSize(1600, 800));
     EXPECT_EQ(image.pixelColor(1599, 799), QColor(255, 0, 0));
+}
+
+TEST_F(CRenderTest, RendersEveryOperation)
+{
+    int pictures = 0;
+    for (const sOperationInfo& info : GetOperationCatalog())
+    {
+        m_document.Clear();
+        const int first = AddRed("40", "30");
+        const int node = Add(info.m_sName.c_str());
+        const int last = Add("gegl:crop");
+        m_document.Connect(first, node, "input");
+        m_document.Connect(first, node, "aux");
+        m_document.Connect(node, last, "input");
+        SetText(m_document, last, "width", "40");
+        SetText(m_document, last, "height", "30");
+        const QImage image = Picture(last).m_image;
+        EXPECT_LE(image.width(), 40) << info.m_sName;
+        EXPECT_LE(image.height(), 30) << info.m_sName;
+        pictures += !image.isNull();
+    }
+    EXPECT_GT(pictures, 120);
+}
+
+TEST_F(CRenderTest, KeepsThePictureOfTheMomentWhenTheGraphChanges)
+{
+    const int color = Add("gegl:color");
+    Paint(color, {1, 0, 0, 1});
+    CRenderGraph before(m_document.GetGraph(), color);
+    Paint(color, {0, 1, 0, 1});
+    CRenderGraph after(m_document.GetGraph(), color);
+    m_document.GetUndoStack().undo();
+    const auto pixel = [](CRenderGraph& graph)
+    { return graph.Render([](int) { return true; }).m_image.pixelColor(0, 0); };
+    EXPECT_EQ(pixel(before), QColor(255, 0, 0));
+    EXPECT_EQ(pixel(after), QColor(0, 255, 0));
+    EXPECT_EQ(Picture(color).m_image.pixelColor(0, 0), QColor(255, 0, 0));
 }
 
 TEST_F(CRenderTest, ReportsProgressAndStopsWhenItIsTold)

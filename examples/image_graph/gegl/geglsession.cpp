@@ -3,14 +3,14 @@
 #include <gegl.h>
 
 #include <algorithm>
-#include <mutex>
 #include <utility>
 
 namespace
 {
 
-std::mutex g_mutexMessages;
-std::vector<std::string> g_vMessages;
+// Rendering goes on in a thread of its own; what it complains about is not about a file that is
+// opened meanwhile.
+thread_local std::vector<std::string> g_vMessages;
 constexpr std::size_t g_ulMaxMessages = 100;
 
 bool IsForDevelopers(const std::string& domain, const std::string& text)
@@ -25,7 +25,6 @@ void Keep(const std::string& domain, std::string text)
     text.erase(text.find_last_not_of(" \n") + 1);
     if (text.empty() || IsForDevelopers(domain, text))
         return;
-    const std::lock_guard<std::mutex> lock(g_mutexMessages);
     const bool isNew = std::find(g_vMessages.begin(), g_vMessages.end(), text) == g_vMessages.end();
     if (isNew && g_vMessages.size() < g_ulMaxMessages)
         g_vMessages.push_back(std::move(text));
@@ -67,6 +66,5 @@ CGeglSession::~CGeglSession()
 
 std::vector<std::string> CGeglSession::TakeMessages()
 {
-    const std::lock_guard<std::mutex> lock(g_mutexMessages);
     return std::exchange(g_vMessages, {});
 }

@@ -13,7 +13,7 @@ public:
     CGeglSession(const CGeglSession&) = delete;
     CGeglSession& operator=(const CGeglSession&) = delete;
 
-    /// The warnings of the library since the last call, without those that a user cannot act upon.
-    /// May be called from any thread.
+    /// The warnings of the library in the calling thread since the last call, without those that a
+    /// user cannot act upon.
     static std::vector<std::string> TakeMessages();
 };

@@ -171,6 +171,7 @@ void CImageOperation::SetColor(const sImageProperty& property, const CColor& col
     // A new object: the old one may be part of a picture that is being rendered.
     const GObjectPointer<GeglColor> value(gegl_color_new("black"));
     gegl_color_set_pixel(value.get(), ColorFormat(), color.data());
+    m_pSnapshot.reset();
     gegl_node_set(m_pNode, property.m_sName.c_str(), value.get(), nullptr);
 }
 
@@ -202,6 +203,7 @@ sWriteResult CImageOperation::SetComponent(const sImageProperty& property, int c
 void CImageOperation::Reset()
 {
     const std::unique_ptr<CImageOperation> fresh = Create(m_info.m_sName);
+    m_pSnapshot.reset();
     CopyProperties(fresh->m_pNode, m_pNode);
     m_mapPaths = fresh->m_mapPaths;
 }
@@ -218,6 +220,7 @@ CImageValue CImageOperation::GetValue(const sImageProperty& property) const
 
 void CImageOperation::SetValue(const sImageProperty& property, const CImageValue& value)
 {
+    m_pSnapshot.reset();
     if (property.m_bOpensFile)
         m_mapPaths[&property] = g_value_get_string(value.Get());
     else
@@ -230,6 +233,13 @@ std::unique_ptr<CImageOperation> CImageOperation::Copy() const
     CopyProperties(m_pNode, copy->m_pNode);
     copy->m_mapPaths = m_mapPaths;
     return copy;
+}
+
+std::shared_ptr<const CImageOperation> CImageOperation::GetSnapshot() const
+{
+    if (!m_pSnapshot)
+        m_pSnapshot = Copy();
+    return m_pSnapshot;
 }
 
 void CImageOperation::ReadFrom(GeglNode* node)

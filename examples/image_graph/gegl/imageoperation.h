@@ -47,6 +47,9 @@ public:
     void SetValue(const sImageProperty& property, const CImageValue& value);
     /// Another operation of the kind, with the same values.
     std::unique_ptr<CImageOperation> Copy() const;
+    /// A copy that nobody changes, for use in another thread. It is the same one until a value
+    /// changes.
+    std::shared_ptr<const CImageOperation> GetSnapshot() const;
 
     void ReadFrom(GeglNode* node);
     /// For the sources of this folder: copies all values that can be copied, but for the paths of
@@ -62,5 +65,6 @@ private:
     const sOperationInfo& m_info;
     GeglNode* m_pGraph;
     GeglNode* m_pNode;
-    std::map<const sImageProperty*, std::string> m_mapPaths; ///< of what opens a file
+    std::map<const sImageProperty*, std::string> m_mapPaths;    ///< of what opens a file
+    mutable std::shared_ptr<const CImageOperation> m_pSnapshot; ///< null when it is out of date
 };

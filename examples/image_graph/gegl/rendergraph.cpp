@@ -35,8 +35,7 @@ GeglRectangle Scaled(const GeglRectangle& bounds, double scale)
 bool MayRun(const CImageOperation& operation)
 {
     const sOperationInfo& info = operation.GetInfo();
-    return info.m_bHasOutput && (!info.m_bNeedsItsFile || !GetFileToRead(operation).isEmpty()) &&
-           FindProblem(operation).empty();
+    return info.m_bHasOutput && (!info.m_bNeedsItsFile || !GetFileToRead(operation).isEmpty());
 }
 
 std::string TakeMessages()
@@ -69,60 +68,55 @@ void TakeOut(GeglNode* node)
 
 } // namespace
 
-CRenderGraph::CRenderGraph(const CGraph& graph, int node) : m_pRoot(gegl_node_new())
+CRenderGraph::CRenderGraph(const CGraph& graph, int node) : m_iLast(node)
 {
     for (const int id : graph.GetUpstream(node))
     {
-        const sGraphNode& added = *graph.Find(id);
-        const std::string problem = FindProblem(*added.m_pOperation);
-        if (!problem.empty())
-            m_mapErrors[id] = problem;
-        if (MayRun(*added.m_pOperation))
-            AddNode(added);
-        Link(graph, added);
+        const sGraphNode& part = *graph.Find(id);
+        m_vParts.push_back({id, part.m_pOperation->GetSnapshot()});
+        for (const std::string& pad : part.GetInfo().m_vInputs)
+            if (const sGraphEdge* edge = graph.FindEdge(id, pad))
+                m_vEdges.push_back(*edge);
     }
-    const auto last = m_mapNodes.find(node);
-    m_pLast = last == m_mapNodes.end() ? nullptr : last->second;
 }
 
 CRenderGraph::~CRenderGraph()
 {
-    g_object_unref(m_pRoot);
+    g_clear_object(&m_pRoot);
 }
 
-void CRenderGraph::AddNode(const sGraphNode& node)
+void CRenderGraph::Build(sResult& result)
 {
-    GeglNode* added =
-        gegl_node_new_child(m_pRoot, "operation", node.GetInfo().m_sName.c_str(), nullptr);
-    node.m_pOperation->WriteTo(added);
-    m_mapNodes[node.m_iId] = added;
-    if (!GetFileToRead(*node.m_pOperation).isEmpty())
-        m_mapReaders[node.m_iId] = node.m_pOperation->Copy();
-}
-
-void CRenderGraph::Link(const CGraph& graph, const sGraphNode& node)
-{
-    const auto target = m_mapNodes.find(node.m_iId);
-    if (target == m_mapNodes.end())
-        return;
-    for (const std::string& pad : node.GetInfo().m_vInputs)
+    g_clear_object(&m_pRoot);
+    m_pRoot = gegl_node_new();
+    m_mapNodes.clear();
+    for (const sPart& part : m_vParts)
     {
-        const sGraphEdge* edge = graph.FindEdge(node.m_iId, pad);
-        const auto source = edge ? m_mapNodes.find(edge->m_iFrom) : m_mapNodes.end();
-        if (source != m_mapNodes.end())
-            gegl_node_connect_to(source->second, "output", target->second, pad.c_str());
+        const std::string problem = FindProblem(*part.m_pOperation);
+        if (!problem.empty())
+            result.m_mapErrors[part.m_iId] = problem;
+        if (!problem.empty() || !MayRun(*part.m_pOperation))
+            continue;
+        const std::string& name = part.m_pOperation->GetInfo().m_sName;
+        GeglNode* node = gegl_node_new_child(m_pRoot, "operation", name.c_str(), nullptr);
+        part.m_pOperation->WriteTo(node);
+        m_mapNodes[part.m_iId] = node;
     }
+    for (const sGraphEdge& edge : m_vEdges)
+        if (m_mapNodes.count(edge.m_iFrom) && m_mapNodes.count(edge.m_iTo))
+            gegl_node_connect_to(m_mapNodes[edge.m_iFrom], "output", m_mapNodes[edge.m_iTo],
+                                 edge.m_sPad.c_str());
 }
 
 CRenderGraph::sResult CRenderGraph::Render(const CProgress& progress)
 {
     sResult result;
-    result.m_mapErrors = m_mapErrors;
     // What was said before is not about this picture.
     CGeglSession::TakeMessages();
+    Build(result);
     TryReaders(result, progress);
-    if (m_pLast && !result.m_bCancelled)
-        RenderPicture(result, progress);
+    if (m_mapNodes.count(m_iLast) && !result.m_bCancelled)
+        RenderPicture(m_mapNodes[m_iLast], result, progress);
     result.m_sMessage = TakeMessages();
     return result;
 }
@@ -131,13 +125,16 @@ CRenderGraph::sResult CRenderGraph::Render(const CProgress& progress)
 // for a pixel, one after the other; the picture finds what they read ready.
 void CRenderGraph::TryReaders(sResult& result, const CProgress& progress)
 {
-    for (const auto& [id, operation] : m_mapReaders)
+    for (const auto& [id, operation] : m_vParts)
     {
+        const QString path = GetFileToRead(*operation);
+        if (path.isEmpty() || !m_mapNodes.count(id))
+            continue;
         result.m_bCancelled = !progress(0);
         if (result.m_bCancelled)
             return;
         GeglNode* node = m_mapNodes[id];
-        std::string error = CheckPicture(GetFileToRead(*operation));
+        std::string error = CheckPicture(path);
         if (error.empty())
         {
             operation->WritePathsTo(node);
@@ -150,9 +147,9 @@ void CRenderGraph::TryReaders(sResult& result, const CProgress& progress)
     }
 }
 
-void CRenderGraph::RenderPicture(sResult& result, const CProgress& progress)
+void CRenderGraph::RenderPicture(GeglNode* node, sResult& result, const CProgress& progress)
 {
-    const GeglRectangle bounds = VisibleBounds(m_pLast);
+    const GeglRectangle bounds = VisibleBounds(node);
     if (bounds.width <= 0 || bounds.height <= 0)
         return;
     const double longest = std::max(bounds.width, bounds.height);
@@ -166,7 +163,7 @@ void CRenderGraph::RenderPicture(sResult& result, const CProgress& progress)
             return;
         const GeglRectangle band{region.x, region.y + y, region.width,
                                  std::min(g_iBandHeight, region.height - y)};
-        gegl_node_blit(m_pLast, scale, &band, babl_format("R'G'B'A u8"), image.scanLine(y),
+        gegl_node_blit(node, scale, &band, babl_format("R'G'B'A u8"), image.scanLine(y),
                        static_cast<int>(image.bytesPerLine()), GEGL_BLIT_DEFAULT);
     }
     result.m_bCancelled = !progress(100);

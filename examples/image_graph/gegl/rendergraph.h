@@ -8,8 +8,8 @@
 #include <map>
 #include <string>
 
-/// A graph of the image library that makes the picture of a node, of copies of the operations. It
-/// may be handed to another thread, as long as one thread at a time uses it.
+/// What makes the picture of a node, as it was when this was made. It may be handed to another
+/// thread, as long as one thread at a time uses it: making one takes no time, rendering does.
 class CRenderGraph
 {
 public:
@@ -35,15 +35,21 @@ public:
     static constexpr int g_iCanvasHeight = 600;
 
 private:
-    void AddNode(const sGraphNode& node);
-    void Link(const CGraph& graph, const sGraphNode& node);
-    void TryReaders(sResult& result, const CProgress& progress);
-    void RenderPicture(sResult& result, const CProgress& progress);
+    struct sPart
+    {
+        int m_iId;
+        std::shared_ptr<const CImageOperation> m_pOperation;
+    };
 
-    GeglNode* m_pRoot;
-    GeglNode* m_pLast = nullptr;
+    void Build(sResult& result);
+    void TryReaders(sResult& result, const CProgress& progress);
+    void RenderPicture(GeglNode* node, sResult& result, const CProgress& progress);
+
+    std::vector<sPart> m_vParts; ///< sources first
+    std::vector<sGraphEdge> m_vEdges;
+    int m_iLast;
+
+    // The graph of the image library, from the first rendering on.
+    GeglNode* m_pRoot = nullptr;
     std::map<int, GeglNode*> m_mapNodes;
-    /// Copies of the operations that read a file: the thread that renders tells them.
-    std::map<int, std::shared_ptr<const CImageOperation>> m_mapReaders;
-    std::map<int, std::string> m_mapErrors; ///< what was wrong before anything was rendered
 };
