@@ -242,18 +242,6 @@ std::shared_ptr<const CImageOperation> CImageOperation::GetSnapshot() const
     return m_pSnapshot;
 }
 
-void CImageOperation::ReadFrom(GeglNode* node)
-{
-    CopyProperties(node, m_pNode);
-    for (auto& [property, path] : m_mapPaths)
-    {
-        gchar* text = nullptr;
-        gegl_node_get(node, property->m_sName.c_str(), &text, nullptr);
-        path = text ? text : "";
-        g_free(text);
-    }
-}
-
 void CImageOperation::WriteTo(GeglNode* node) const
 {
     CopyProperties(m_pNode, node);

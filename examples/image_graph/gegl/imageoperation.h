@@ -51,7 +51,6 @@ public:
     /// changes.
     std::shared_ptr<const CImageOperation> GetSnapshot() const;
 
-    void ReadFrom(GeglNode* node);
     /// For the sources of this folder: copies all values that can be copied, but for the paths of
     /// files.
     void WriteTo(GeglNode* node) const;
