@@ -5,6 +5,7 @@
 #include "qtcompat.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QEvent>
 #include <QWidget>
 #include <QWindow>
@@ -13,6 +14,8 @@
 
 namespace
 {
+
+QElapsedTimer g_sinceReturn; ///< since some editor gave the keyboard back
 
 /// Whether editors float in the window of their owner.
 bool FloatsAsChild()
@@ -53,11 +56,15 @@ void CEditorPlacement::Show(QWidget& owner, const QRect& rect)
     m_rEditor.activateWindow();
     // Hidden and shown in one event, the window never lost the focus as far as the platform can
     // tell. It will not tell again that the window has it.
-    if (QGuiApplication::focusWindow() == m_rEditor.windowHandle() && !m_rEditor.isActiveWindow())
-    {
+    const bool hadFocus = QGuiApplication::focusWindow() == m_rEditor.windowHandle();
+    const bool isForgotten = hadFocus && !m_rEditor.isActiveWindow();
+    if (isForgotten)
         TakeAsActive(m_rEditor);
+    // The last editor gave the keyboard back, which the server may do only now.
+    const bool isReturnDue =
+        g_sinceReturn.isValid() && !g_sinceReturn.hasExpired(COutsidePress::FallbackTime);
+    if (isForgotten || isReturnDue)
         m_OutsidePress.ExpectFallback(*m_pOwnerWindow);
-    }
 }
 
 void CEditorPlacement::FloatIn(QWidget& window, const QRect& rect)
@@ -121,7 +128,10 @@ void CEditorPlacement::ReturnKeyboard()
     // is hidden.
     if (m_pOwnerWindow && m_pOwnerWindow->isVisible() && !m_rEditor.isVisible() &&
         CountOtherWindows() <= m_iOtherWindows)
+    {
         m_pOwnerWindow->activateWindow();
+        g_sinceReturn.start();
+    }
 }
 
 int CEditorPlacement::CountOtherWindows() const

@@ -7,14 +7,6 @@
 #include <QWidget>
 #include <QWindow>
 
-namespace
-{
-
-/// How long a window manager may take, in milliseconds.
-constexpr int g_iFallbackTime = 500;
-
-} // namespace
-
 COutsidePress::COutsidePress(QWidget& editor) : m_rEditor(editor)
 {
 }
@@ -104,13 +96,18 @@ bool COutsidePress::IsOutside(const QObject* watched, const QEvent& event) const
 
 bool COutsidePress::IsFallback(const QObject* watched, const QEvent& event) const
 {
-    if (event.type() != QEvent::WindowDeactivate && event.type() != QEvent::FocusOut)
+    // From the platform, not from a host or a test that ends the edit by hand.
+    const bool isFromPlatform =
+        event.type() == QEvent::WindowDeactivate
+            ? event.spontaneous()
+            : event.type() == QEvent::FocusOut && !m_rEditor.isActiveWindow();
+    if (!isFromPlatform)
         return false;
     if (watched != &m_rEditor || !m_pFallback)
         return false;
     const QWindow* focus = QGuiApplication::focusWindow();
     return (!focus || focus == m_pFallback->windowHandle()) &&
-           !m_SinceFallbackIsExpected.hasExpired(g_iFallbackTime);
+           !m_SinceFallbackIsExpected.hasExpired(FallbackTime);
 }
 
 void COutsidePress::TakeKeyboardBack()

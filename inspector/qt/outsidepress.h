@@ -24,9 +24,12 @@ public:
     void Watch(QWidget* window);
     void Stop();
 
-    /// The editor's own window was hidden and shown again in one go. A window manager that saw the
-    /// keyboard go to nobody gives it to the owner's window a moment later; the editor takes it
-    /// back then.
+    /// How long an X server or a window manager may take, in milliseconds.
+    static constexpr int FallbackTime = 500;
+
+    /// The editor's own window was hidden and shown again in one go, or shown soon after an editor
+    /// gave the keyboard back. A server or a window manager gives it to the owner's window a moment
+    /// later; the editor takes it back then.
     void ExpectFallback(QWidget& ownerWindow);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
