@@ -222,13 +222,14 @@ void CInPlaceEdit::CommitComposition()
         return;
     if (QGuiApplication::focusObject() == this)
         QGuiApplication::inputMethod()->commit();
-    if (m_sComposition.isEmpty())
-        return;
-    // The input method did not answer: what the user sees is taken as typed.
-    QInputMethodEvent commit;
-    commit.setCommitString(m_sComposition);
-    m_sComposition.clear();
-    QLineEdit::event(&commit);
+    if (!m_sComposition.isEmpty())
+    {
+        // The input method did not answer: what the user sees is taken as typed.
+        QInputMethodEvent commit;
+        commit.setCommitString(m_sComposition);
+        m_sComposition.clear();
+        QLineEdit::event(&commit);
+    }
 }
 
 void CInPlaceEdit::OnFinishEditing()

@@ -34,9 +34,8 @@ CQTInspectorView::CQTInspectorView()
     m_pContent->show();
     m_pScrollBar->hide();
     connect(m_pScrollBar, SIGNAL(valueChanged(int)), this, SLOT(SliderValueChanged(int)));
-    new CWheelFilter(*this, *m_pScrollBar,
-                     g_iRowsPerNotch *
-                         (g_iTextRowHeight + CQTInspectorView::GetHeightBetweenControl()));
+    const int row = g_iTextRowHeight + CQTInspectorView::GetHeightBetweenControl();
+    new CWheelFilter(*this, *m_pScrollBar, g_iRowsPerNotch * row);
 }
 
 CQTInspectorView::~CQTInspectorView()

@@ -139,6 +139,43 @@ TEST(Lifetimes, ARowThatMovesToAnotherViewIsForgottenByTheFirst)
     host.m_pView->RecomputeLayout();
 }
 
+TEST(Lifetimes, ARowForgetsADyingWidgetThatShowsAnotherElement)
+{
+    for (const bool hasElement : {false, true})
+    {
+        CRecordingHost host;
+        const auto first = host.AddRow("a");
+        const auto row = host.AddRow("b");
+        row.m_pWidget->SetDataElement(hasElement ? first.m_pElement : nullptr);
+        delete row.m_pWidget;
+        EXPECT_EQ(host.m_pController->m_lItems.back()->m_pWidget, nullptr);
+        EXPECT_EQ(row.m_pElement->GetWidget(), nullptr);
+        EXPECT_EQ(host.m_pController->m_lItems.front()->m_pWidget, first.m_pWidget);
+        EXPECT_EQ(first.m_pElement->GetWidget(), first.m_pWidget);
+    }
+}
+
+TEST(Lifetimes, ARowLeavesTheNewWidgetOfItsElementAlone)
+{
+    CRecordingHost host;
+    CRecordingWidget other(host.m_log, "other");
+    const auto row = host.AddRow("a");
+    row.m_pElement->SetDataControl(&other, host.m_pController.get());
+    delete row.m_pWidget;
+    EXPECT_EQ(row.m_pElement->GetWidget(), &other);
+    EXPECT_EQ(host.m_pController->m_lItems.front()->m_pWidget, nullptr);
+}
+
+TEST(Lifetimes, AWidgetMayDieWhoseRecordTheHostGaveAnother)
+{
+    CRecordingHost host;
+    const auto row = host.AddRow("a");
+    auto* other = new CRecordingWidget(host.m_log, "other");
+    host.m_pController->m_lItems.front()->m_pWidget = other;
+    delete row.m_pWidget;
+    EXPECT_EQ(host.m_pController->m_lItems.front()->m_pWidget, other);
+}
+
 TEST(Lifetimes, TwoPanelsInOneProcessKeepToThemselves)
 {
     CRecordingHost first;

@@ -5,6 +5,7 @@
 
 #include <qt/logginghost.h>
 #include <support/recordingcontroller.h>
+#include <support/recordingwidget.h>
 
 #include <enumdataelement.h>
 #include <qtenumdatawidget.h>
@@ -141,6 +142,85 @@ TEST_F(HooksAndFocus, ABoxThatTheHostTurnsTheFocusAwayFromIsDeletedAfterwards)
     EXPECT_TRUE(next.m_pWidget->isHidden());
     FinishDeletions();
     EXPECT_TRUE(next.m_pWidget.isNull());
+}
+
+TEST_F(HooksAndFocus, ABoxThatIsRemovedAsItGetsTheFocusTellsNobodyWhenItLosesIt)
+{
+    const auto left = AddBox("left");
+    const auto next = AddBox("next");
+    const auto third = AddBox("third");
+    left.m_pWidget->setFocus();
+    left.m_pWidget->setPlainText(QStringLiteral("typed"));
+    left.m_pElement->m_fnInternalValueChanged = [&]
+    {
+        next.m_pWidget->setPlainText(QStringLiteral("typed, too"));
+        m_controller.RemoveItem(next.m_pElement);
+        third.m_pWidget->setFocus();
+    };
+    QWidget* receiver = next.m_pWidget;
+    receiver->setFocus();
+    EXPECT_TRUE(third.m_pWidget->hasFocus());
+    EXPECT_EQ(m_log.Count("next.InternalValueChanged"), 0u);
+}
+
+TEST_F(HooksAndFocus, AControlOfAnotherKindIsDeletedAtOnceWhileTheFocusMoves)
+{
+    const auto left = AddBox("left");
+    const auto next = AddBox("next");
+    auto* element = new CElement(m_log, "other");
+    m_controller.AddItem(element, new CRecordingWidget(m_log, "control"), nullptr);
+    left.m_pWidget->setFocus();
+    left.m_pWidget->setPlainText(QStringLiteral("typed"));
+    left.m_pElement->m_fnInternalValueChanged = [&]
+    {
+        m_controller.RemoveItem(element);
+        EXPECT_EQ(m_log.Count("control.~()"), 1u);
+    };
+    next.m_pWidget->setFocus();
+    EXPECT_EQ(m_log.Count("control.~()"), 1u);
+}
+
+TEST_F(HooksAndFocus, AnEditorThatComesUpGivesWayToWhatItsComingUpBringsAbout)
+{
+    const auto box = AddBox("box");
+    const auto first = AddField("first");
+    const auto second = AddField("second");
+    first.m_pWidget->StartEditing();
+    QWidget* editor = CQTSimpleDataWidget::g_pInPlace;
+    ASSERT_TRUE(QTest::qWaitForWindowActive(editor));
+    // Closed, the window still has the keyboard as far as the platform can tell.
+    QTest::keyClick(editor, Qt::Key_Escape);
+    QApplication::setActiveWindow(&m_view);
+    box.m_pWidget->setFocus();
+    box.m_pWidget->setPlainText(QStringLiteral("typed"));
+    box.m_pElement->m_fnInternalValueChanged = [&] { second.m_pWidget->StartEditing(); };
+    first.m_pWidget->StartEditing();
+    EXPECT_EQ(m_log.Count("box.InternalValueChanged"), 1u);
+    const QPoint place = second.m_pWidget->mapToGlobal(QPoint(0, 0));
+    EXPECT_EQ(editor->geometry().topLeft(), place);
+    QTest::keyClick(editor, Qt::Key_Return);
+    EXPECT_EQ(Ends("first"), 1u);
+    EXPECT_EQ(Ends("second"), 1u);
+}
+
+TEST_F(HooksAndFocus, AListThatComesUpGivesWayToWhatItsComingUpBringsAbout)
+{
+    const auto box = AddBox("box");
+    const auto first = AddChoice("first");
+    const auto second = AddChoice("second");
+    Press(first.m_pWidget);
+    QWidget* list = CQTEnumDataWidget::g_pInPlaceList.get();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(list));
+    QTest::keyClick(list, Qt::Key_Escape);
+    QApplication::setActiveWindow(&m_view);
+    box.m_pWidget->setFocus();
+    box.m_pWidget->setPlainText(QStringLiteral("typed"));
+    box.m_pElement->m_fnInternalValueChanged = [&] { Press(second.m_pWidget); };
+    Press(first.m_pWidget);
+    EXPECT_EQ(m_log.Count("box.InternalValueChanged"), 1u);
+    QTest::keyClick(list, Qt::Key_Return);
+    EXPECT_EQ(Ends("first"), 1u);
+    EXPECT_EQ(Ends("second"), 1u);
 }
 
 TEST_F(HooksAndFocus, ABoxOnItsWayToTheFocusOutlivesAnEventLoopOfTheHost)

@@ -319,3 +319,14 @@ TEST(VerticalPass, TakesTheLargerOfCursorAndHeightInPreviewMode)
     EXPECT_EQ(panel.Node(1).m_iHeight, 40);
     EXPECT_EQ(y, 90);
 }
+
+TEST(VerticalPass, GivesARowWithoutAHolderNoHeight)
+{
+    CLayoutPanel panel;
+    panel.m_view.AddGroup("", nullptr)->m_iKind = CInspectorView::eElementRow;
+    int left = 5;
+    int right = 95;
+    int y = 5;
+    panel.m_view.recRecomputeLayout(panel.m_view.m_lElements, left, right, y);
+    EXPECT_EQ(panel.Node(0).m_iHeight, 0);
+}
