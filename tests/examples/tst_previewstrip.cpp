@@ -86,7 +86,7 @@ TEST_F(CStrip, ShowsAnErrorUntilItIsGone)
     const QImage message = m_pStrip->grab().toImage();
     Set("path", "");
     Render();
-    QTRY_VERIFY_WITH_TIMEOUT(!m_renderer.IsRendering(), g_iPatience);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !m_renderer.IsRendering(); }, g_iPatience));
     EXPECT_FALSE(HasMessage());
     EXPECT_GT(Control<CFieldWidget>("path").width(), 0);
     EXPECT_NE(m_pStrip->grab().toImage(), message);
@@ -100,7 +100,7 @@ TEST_F(CStrip, SaysThatItIsRenderingOnlyAfterAWhile)
     Set("scale", "0.01");
     Render();
     EXPECT_FALSE(HasMessage());
-    QTRY_VERIFY_WITH_TIMEOUT(HasMessage(), g_iPatience);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return HasMessage(); }, g_iPatience));
     EXPECT_EQ(m_pStrip->toolTip(), QStringLiteral("Rendering\u2026"));
     EXPECT_TRUE(m_renderer.IsRendering());
     m_renderer.Cancel();

@@ -239,7 +239,7 @@ TEST_F(CRenderTest, WorksInAnotherThreadAndReportsInThisOne)
     const int red = AddRed("30", "100");
     Render(red);
     EXPECT_TRUE(m_renderer.IsRendering());
-    QTRY_COMPARE_WITH_TIMEOUT(listener.m_vImages.size(), 1u, g_iPatience);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return listener.m_vImages.size() == 1u; }, g_iPatience));
     EXPECT_FALSE(m_renderer.IsRendering());
     EXPECT_EQ(listener.m_pThread, QThread::currentThread());
     EXPECT_EQ(listener.m_vImages[0].size(), QSize(30, 100));
@@ -255,7 +255,7 @@ TEST_F(CRenderTest, ShowsTheNewestOfManyEdits)
         Paint(color, {i / 50.0, 0, 0, 1});
         Render(color);
     }
-    QTRY_COMPARE_WITH_TIMEOUT(listener.m_vImages.size(), 1u, g_iPatience);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return listener.m_vImages.size() == 1u; }, g_iPatience));
     EXPECT_EQ(listener.m_vImages[0].pixelColor(0, 0), QColor(255, 0, 0));
     QTest::qWait(200);
     EXPECT_EQ(listener.m_vImages.size(), 1u) << "something older came after the newest";
@@ -269,7 +269,7 @@ TEST_F(CRenderTest, TellsWhatBecomesOfEachNode)
     CListener listener(m_renderer);
     Render(red);
     EXPECT_EQ(listener.m_sStates, "1:1 2:1 3:2 ") << "a file is missing, and nobody looks there";
-    QTRY_COMPARE_WITH_TIMEOUT(listener.m_vImages.size(), 1u, g_iPatience);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return listener.m_vImages.size() == 1u; }, g_iPatience));
     EXPECT_EQ(listener.m_sStates, "1:1 2:1 3:2 1:0 2:0 ");
     EXPECT_EQ(m_renderer.GetNodeState(load).m_sError,
               QStringLiteral("There is no file /no/such/picture.png"));
@@ -292,7 +292,26 @@ TEST_F(CRenderTest, GivesUpWhenItIsCancelled)
     QTest::qWait(300);
     EXPECT_TRUE(listener.m_vImages.empty());
     Render(noise);
-    QTRY_COMPARE_WITH_TIMEOUT(listener.m_vImages.size(), 1u, g_iPatience);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return listener.m_vImages.size() == 1u; }, g_iPatience));
+}
+
+TEST_F(CRenderTest, DropsAPictureThatIsNoLongerWantedWhenItArrives)
+{
+    const CListener listener(m_renderer);
+    const int red = AddRed("8", "8");
+    const int small = AddRed("4", "4");
+    const auto renderUnheard = [this](int node)
+    {
+        Render(node);
+        QThread::msleep(300); // it is done meanwhile, and waits to be heard
+    };
+    renderUnheard(red);
+    m_renderer.Cancel();
+    renderUnheard(red);
+    Render(small);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !m_renderer.IsRendering(); }, g_iPatience));
+    ASSERT_EQ(listener.m_vImages.size(), 1u);
+    EXPECT_EQ(listener.m_vImages[0].size(), QSize(4, 4));
 }
 
 TEST_F(CRenderTest, EndsWhileItIsRendering)
