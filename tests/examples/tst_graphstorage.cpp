@@ -92,6 +92,20 @@ int LargestDifference(const QImage& left, const QImage& right)
 }
 #endif
 
+#ifdef GEGL_PROGRAM
+/// What the image library's own program makes of a file.
+QImage PictureOfTheProgram(const QString& graph)
+{
+    const QTemporaryDir folder;
+    const QString picture = folder.filePath(QStringLiteral("picture.png"));
+    QProcess program;
+    program.start(QStringLiteral(GEGL_PROGRAM), {graph, QStringLiteral("-o"), picture});
+    EXPECT_TRUE(program.waitForFinished(120000));
+    EXPECT_EQ(program.exitCode(), 0) << program.readAllStandardError().toStdString();
+    return QImage(picture).convertToFormat(QImage::Format_RGBA8888);
+}
+#endif
+
 /// While it lives, no file grows beyond a size: writing fails in the middle.
 class CSmallFiles
 {
@@ -370,19 +384,25 @@ TEST_F(CStorageTest, GivesTheSamePictureInTheImageLibrarysOwnProgram)
     const QImage here = Picture();
     ASSERT_EQ(here.size(), QSize(110, 80));
 
-    QProcess program;
-    program.setProgram(QStringLiteral(GEGL_PROGRAM));
-    program.setArguments({Path("picture.xml"), QStringLiteral("-o"), Path("picture.png")});
-    program.start();
-    ASSERT_TRUE(program.waitForFinished(120000));
-    const std::string said = program.readAllStandardError().toStdString();
-    ASSERT_EQ(program.exitCode(), 0) << said;
-    QImage there(Path("picture.png"));
-    ASSERT_FALSE(there.isNull()) << said;
-    there.convertTo(QImage::Format_RGBA8888);
+    const QImage there = PictureOfTheProgram(Path("picture.xml"));
     ASSERT_EQ(there.size(), here.size());
     // The program writes 16 bits, which are rounded here.
     EXPECT_LE(LargestDifference(here, there), 1);
     EXPECT_GT(LargestDifference(here, here.mirrored()), 50) << "this picture would prove nothing";
+}
+
+TEST_F(CStorageTest, GivesTheSamplesTheSamePictureBeforeAndAfterSaving)
+{
+    const QDir samples(QStringLiteral(IMAGE_GRAPH_SAMPLES));
+    for (const QString& name : samples.entryList({QStringLiteral("*.xml")}, QDir::Files))
+    {
+        const QImage before = PictureOfTheProgram(samples.filePath(name));
+        Load(samples.filePath(name));
+        Save(Path("saved.xml"));
+        const QImage after = PictureOfTheProgram(Path("saved.xml"));
+        ASSERT_FALSE(before.isNull()) << name.toStdString();
+        ASSERT_EQ(after.size(), before.size()) << name.toStdString();
+        EXPECT_LE(LargestDifference(before, after), 1) << name.toStdString();
+    }
 }
 #endif
