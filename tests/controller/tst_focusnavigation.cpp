@@ -60,6 +60,13 @@ const std::string g_names = "abcdefg";
 
 } // namespace
 
+TEST_F(FocusNavigation, StopsWithoutAnEditAtARowThatHasNoControl)
+{
+    m_host.m_pView->AddGroup("row", nullptr)->m_iKind = CInspectorView::eElementRow;
+    EXPECT_EQ(Next(m_vRows.back().m_pWidget), CCalls{});
+    EXPECT_EQ(Previous(m_vRows.front().m_pWidget), CCalls{});
+}
+
 TEST_F(FocusNavigation, MovesForwardThroughAllControlsAndAround)
 {
     for (std::size_t i = 0; i < 7; ++i)

@@ -228,6 +228,18 @@ TEST_F(Reentrancy, ADyingRowMayTakeTheControllerAlong)
     EXPECT_EQ(m_host.m_log.Count("b.~()"), 1u);
 }
 
+TEST_F(Reentrancy, ADyingControlMayTakeTheControllerAlongThatClearsIt)
+{
+    m_vRows[1].m_pWidget->m_fnDestroyed = [this] { m_host.m_pController.reset(); };
+    m_host.m_log.Clear();
+    m_host.m_pController->ClearAllData();
+    for (const char* name : {"r0", "r1", "r2"})
+    {
+        EXPECT_EQ(m_host.m_log.Count(std::string(name) + ".element.~()"), 1u);
+        EXPECT_EQ(m_host.m_log.Count(std::string(name) + ".widget.~()"), 1u);
+    }
+}
+
 TEST_F(Reentrancy, ADyingControlMayClearWhatIsBeingCleared)
 {
     CRecordingHost host;

@@ -45,6 +45,19 @@ TEST(RowIndex, GivesTheFirstOfTwoRowsOfOneElement)
     EXPECT_EQ(host.m_pController->m_lItems.front(), twins.m_pSecond);
 }
 
+TEST(RowIndex, KeepsTwinsWhenAnotherRowGoes)
+{
+    CRecordingHost host;
+    const auto other = host.AddRow("other");
+    const sTwins twins(host);
+    host.m_pController->RemoveItem(other.m_pElement);
+    EXPECT_EQ(host.m_pController->m_lItems.size(), 2u);
+    twins.m_pElement->m_fnDisconnect = [&] { twins.m_pSecond->m_pElement = nullptr; };
+    host.m_pController->RemoveItem(twins.m_pElement);
+    ASSERT_EQ(host.m_pController->m_lItems.size(), 1u);
+    EXPECT_EQ(host.m_pController->m_lItems.front(), twins.m_pSecond);
+}
+
 TEST(RowIndex, GivesTheSecondRowOnceTheFirstIsGone)
 {
     CRecordingHost host;

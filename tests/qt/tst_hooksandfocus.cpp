@@ -332,6 +332,21 @@ TEST_F(HooksAndFocus, AListThatTheKeyboardIsTakenFromOutlivesTheEndOfTheOtherEdi
     EXPECT_TRUE(list.isNull());
 }
 
+TEST_F(HooksAndFocus, AChoiceThatIsRemovedAsItIsPressedOpensNothing)
+{
+    const auto open = AddChoice("open");
+    const auto pressed = AddChoice("pressed");
+    Press(open.m_pWidget);
+    open.m_pElement->m_fnOnEndEditing = [&] { m_controller.RemoveItem(pressed.m_pElement); };
+    QWidget* widget = pressed.m_pWidget;
+    QMouseEvent press(QEvent::MouseButtonPress, QPointF(3, 3), QPointF(3, 3), QPointF(3, 3),
+                      Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &press);
+    EXPECT_EQ(Ends("open"), 1u);
+    EXPECT_TRUE(pressed.m_pWidget.isNull());
+    EXPECT_TRUE(CQTEnumDataWidget::g_pInPlaceList->isHidden());
+}
+
 TEST_F(HooksAndFocus, TheListGoesWithTheLastRowAlsoWhenThatRowIsBeingPressed)
 {
     const auto row = AddChoice("row");

@@ -410,6 +410,15 @@ TEST(SharedLineEditor, IsMadeAnewWhenSomebodyDestroyedIt)
     EXPECT_EQ(CQTSimpleDataWidget::g_iInPlaceRefCount, 1);
 }
 
+TEST(SharedLineEditor, IsNotMissedByTheLastFieldWhenSomebodyDestroyedIt)
+{
+    auto field = std::make_unique<CQTSimpleDataWidget>();
+    delete CQTSimpleDataWidget::g_pInPlace;
+    EXPECT_EQ(CQTSimpleDataWidget::g_pInPlace, nullptr);
+    field.reset();
+    EXPECT_EQ(CQTSimpleDataWidget::g_iInPlaceRefCount, 0);
+}
+
 TEST(SharedLineEditor, IsHiddenSilentlyWithTheFieldThatItIsAChildOf)
 {
     CCallLog log;
