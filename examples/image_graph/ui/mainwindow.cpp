@@ -17,11 +17,13 @@
 
 #include <qtsimpledatawidget.h>
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QLabel>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QTextEdit>
 
 namespace
 {
@@ -246,6 +248,18 @@ void CMainWindow::UpdateSummary()
 bool CMainWindow::OpenGraph(const QString& path)
 {
     return m_pFiles->OpenPath(path);
+}
+
+bool CMainWindow::event(QEvent* event)
+{
+    // The fields of the panels keep their keys, a text box keeps but those that it knows.
+    if (event->type() == QEvent::ShortcutOverride &&
+        qobject_cast<QTextEdit*>(QApplication::focusWidget()))
+    {
+        event->accept();
+        return true;
+    }
+    return QMainWindow::event(event);
 }
 
 void CMainWindow::closeEvent(QCloseEvent* event)

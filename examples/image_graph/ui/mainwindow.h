@@ -64,6 +64,7 @@ private:
     void Say(const QString& text, int node);
     void UpdateTitle();
     void UpdateSummary();
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
     CGraphDocument m_document;
