@@ -61,12 +61,15 @@ bool CTour::Run()
     int number = 0;
     for (const sStop& stop : stops)
     {
+        m_iAwaited = m_iRendered;
         const bool isDone = (this->*stop.m_Edit)();
         QTest::qWait(g_iPause); // what is to be laid out and painted is then
+        const bool isRendered =
+            QTest::qWaitFor([this] { return !m_window.IsRendering(); }, g_iPatience);
         const QString name = QStringLiteral("%1-%2.png")
                                  .arg(++number, 2, 10, QLatin1Char('0'))
                                  .arg(QLatin1String(stop.m_sName));
-        if (TakePicture(name) && isDone)
+        if (TakePicture(name) && isDone && isRendered)
             continue;
         std::cerr << "the tour fails at " << stop.m_sName << '\n';
         return false;
@@ -83,7 +86,7 @@ bool CTour::Open()
 
 bool CTour::HoverNode()
 {
-    const int node = NodeOf(g_sFilter);
+    const int node = NodeOf("gegl:map-relative");
     return m_hand.Move(Canvas(), TitleOf(node)) && m_window.GetStrips().FindStrip(node);
 }
 

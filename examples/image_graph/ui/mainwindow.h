@@ -48,6 +48,7 @@ public:
     /// Opens the editor of the first value of the inspector that is typed.
     void EditFirstValue();
     void CancelRendering();
+    bool IsRendering() const { return m_renderer.IsRendering(); }
     void ShowMessage(const QString& text);
 
 Q_SIGNALS:
