@@ -1,8 +1,8 @@
 #include "panel.h"
 
 #include <QCheckBox>
-#include <QCoreApplication>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -54,10 +54,7 @@ public:
         QCoreApplication::sendPostedEvents();
     }
 
-    int GetScrollSteps() override
-    {
-        return m_area.verticalScrollBar()->maximum() / GetRowHeight();
-    }
+    int GetScrollSteps() override { return m_area.verticalScrollBar()->maximum() / GetRowHeight(); }
 
     void ScrollTo(int step) override
     {

@@ -1,3 +1,4 @@
+#include "enginepanel.h"
 #include "task.h"
 
 #include <QApplication>
@@ -9,6 +10,7 @@
 #include <string>
 
 // What a filled and painted panel holds: memory TWIN ROWS prints heap and resident bytes per row.
+// The twin "engine" is the layout engine alone, without the widgets that it places.
 
 namespace
 {
@@ -30,6 +32,31 @@ std::size_t ResidentBytes()
     return 0;
 }
 
+/// Heap and resident bytes that were added since.
+class CHeld
+{
+public:
+    void Print(int rows) const
+    {
+        const auto count = static_cast<std::size_t>(rows);
+        std::printf("%zu %zu\n", (HeapBytes() - m_ulHeap) / count,
+                    (ResidentBytes() - m_ulResident) / count);
+    }
+
+private:
+    std::size_t m_ulHeap = HeapBytes();
+    std::size_t m_ulResident = ResidentBytes();
+};
+
+void MeasureEngine(int rows)
+{
+    // The widgets are made first, so that only what the engine makes counts.
+    std::vector<std::unique_ptr<CFakeWidget>> widgets = MakeFakeWidgets(rows);
+    const CHeld held;
+    const CFakeView view(rows, std::move(widgets));
+    held.Print(rows);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -39,6 +66,11 @@ int main(int argc, char** argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
+    if (std::string(argv[1]) == "engine")
+    {
+        MeasureEngine(std::stoi(argv[2]));
+        return 0;
+    }
     const CRowPlan small = MakeRowPlan(20);
     const CRowPlan plan = MakeRowPlan(std::stoi(argv[2]));
     for (const sTwin& twin : AllTwins())
@@ -50,12 +82,10 @@ int main(int argc, char** argv)
         warm->Fill(small);
         warm->Paint();
         std::unique_ptr<CPanel> panel = twin.m_pMake();
-        const std::size_t heap = HeapBytes();
-        const std::size_t resident = ResidentBytes();
+        const CHeld held;
         panel->Fill(plan);
         panel->Paint();
-        const auto rows = static_cast<std::size_t>(CountRows(plan));
-        std::printf("%zu %zu\n", (HeapBytes() - heap) / rows, (ResidentBytes() - resident) / rows);
+        held.Print(CountRows(plan));
         return 0;
     }
     return 1;

@@ -6,6 +6,7 @@
 
 #include <ctime>
 #include <map>
+#include <string>
 
 // Every task on every twin at several sizes. What is timed is the processor time of the thread,
 // which a busy machine disturbs less than the time of day.
@@ -50,23 +51,22 @@ int main(int argc, char** argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
-    std::map<int, CRowPlan> plans;
+    std::map<std::string, CRowPlan> plans;
     for (int rows : {100, 1000, 10000, 100000})
-        plans[rows] = MakeRowPlan(rows);
-    for (const auto& [rows, plan] : plans)
+        plans[std::to_string(rows)] = MakeRowPlan(rows);
+    plans["gegl"] = ReadRowPlan(CAPTURED_PANEL);
+    for (const auto& [size, plan] : plans)
     {
         for (const sTask& task : AllTasks())
         {
             for (const sTwin& twin : AllTwins())
             {
-                if (IsTooLong(task, twin, rows))
+                if (IsTooLong(task, twin, CountRows(plan)))
                     continue;
-                const std::string name =
-                    task.m_sName + "/" + std::to_string(rows) + "/" + twin.m_sName;
-                benchmark::RegisterBenchmark(
-                    name.c_str(),
-                    [&task, &twin, &plan = plan](benchmark::State& state)
-                    { RunTask(state, task, twin, plan); })
+                const std::string name = task.m_sName + "/" + size + "/" + twin.m_sName;
+                benchmark::RegisterBenchmark(name.c_str(),
+                                             [&task, &twin, &plan = plan](benchmark::State& state)
+                                             { RunTask(state, task, twin, plan); })
                     ->UseManualTime()
                     ->Iterations(task.m_iRounds)
                     ->Unit(benchmark::kMillisecond);
