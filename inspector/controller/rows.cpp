@@ -45,8 +45,10 @@ void CInspectorController::sInspectorControllerData::DeleteWidget()
 
 void CInspectorController::IndexRow(CRows::iterator row)
 {
-    // Only the first row of an element can be asked for.
-    if (m_ulIndexed + 1 == m_lItems.size() && std::next(row) == m_lItems.end())
+    // Until somebody asks for a row there is no index. Only the first row of an element can be asked
+    // for.
+    const bool isUsed = m_ulIndexed > 0 && m_ulIndexed + 1 == m_lItems.size();
+    if (isUsed && std::next(row) == m_lItems.end())
     {
         m_mapRows.emplace((*row)->m_pElement, row);
         ++m_ulIndexed;
