@@ -20,6 +20,9 @@ class QScrollBar;
 /// view, any other is destroyed with it.
 ///
 /// The wheel scrolls by three text rows a notch, wherever the pointer is in the panel.
+///
+/// A control of the library that is out of sight is placed at once, but has its move and resize
+/// events when it comes into sight.
 class INSPECTOR_EXPORT CQTInspectorView : public QWidget, public CInspectorView
 {
     Q_OBJECT
