@@ -17,6 +17,8 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QGraphicsScene>
+#include <QGraphicsView>
 #include <QMoveEvent>
 #include <QPainter>
 #include <QScreen>
@@ -456,4 +458,25 @@ TEST(ControlPlacement, AScrollStepLeavesWhatIsNoControlInPlace)
     child.setAutoFillBackground(true);
     child.setPalette(QPalette(Qt::blue));
     ExpectThatScrollingShowsWhatARepaintShows(panel);
+}
+
+TEST(ControlPlacement, AScrollStepInAScenesItemShowsWhatARepaintShows)
+{
+    QGraphicsScene scene;
+    QGraphicsView window(&scene);
+    window.resize(400, 500);
+    CPlainPanel panel;
+    panel.m_controller.ConnectDataElements();
+    panel.m_view.ResizeInspector(300, 400);
+    scene.addWidget(&panel.m_view);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    for (const int value : {0, 25, 31, 300, 290, 0})
+    {
+        SCOPED_TRACE("scrolled to " + std::to_string(value));
+        panel.ScrollTo(value);
+        const QImage screen = window.screen()->grabWindow(window.winId()).toImage();
+        images::ExpectSame(screen.convertToFormat(QImage::Format_ARGB32_Premultiplied),
+                           images::Render(window));
+    }
 }
