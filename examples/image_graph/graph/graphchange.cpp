@@ -9,7 +9,12 @@ bool sGraphChange::IsEmpty() const
 
 bool sGraphChange::ChangesPicture() const
 {
-    return !m_vAdded.empty() || !m_vRemoved.empty() || ChangesEdges() || !m_vValues.empty();
+    return ChangesStructure() || !m_vValues.empty();
+}
+
+bool sGraphChange::ChangesStructure() const
+{
+    return !m_vAdded.empty() || !m_vRemoved.empty() || ChangesEdges();
 }
 
 void sGraphChange::ApplyTo(CGraph& graph) const

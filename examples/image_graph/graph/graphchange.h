@@ -30,6 +30,7 @@ struct sGraphChange
 
     bool IsEmpty() const;
     bool ChangesPicture() const;
+    bool ChangesStructure() const;
     bool ChangesEdges() const { return !m_vConnected.empty() || !m_vDisconnected.empty(); }
 
     void ApplyTo(CGraph& graph) const;

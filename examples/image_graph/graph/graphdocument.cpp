@@ -227,7 +227,8 @@ void CGraphDocument::Push(const QString& text, sGraphChange change, int drag)
 
 void CGraphDocument::Apply(const sGraphChange& change)
 {
-    const int viewed = GetViewed();
+    // Finding out what is viewed walks through the graph, which values and places do not change.
+    const int viewed = change.ChangesStructure() ? GetViewed() : 0;
     change.ApplyTo(m_graph);
     for (const sGraphNode& node : change.m_vAdded)
         Q_EMIT NodeAdded(node.m_iId);
@@ -248,7 +249,7 @@ void CGraphDocument::Apply(const sGraphChange& change)
     }
     if (change.ChangesPicture())
         Q_EMIT PictureChanged();
-    if (GetViewed() != viewed)
+    if (change.ChangesStructure() && GetViewed() != viewed)
         Q_EMIT StateChanged();
 }
 
