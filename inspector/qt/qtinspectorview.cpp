@@ -5,7 +5,7 @@
 #include <qttextencoding.h>
 
 #include "../view/pixels.h"
-#include "controlplacement.h"
+#include "layoutoperations.h"
 #include "text.h"
 #include "wheelfilter.h"
 
@@ -86,9 +86,9 @@ void CQTInspectorView::ResizeInspector(int width, int height)
         CInspectorView::ResizeInspector(contentWidth, height);
         height = m_iInspectorHeight;
     }
-    resize(width, height);
+    resize(ReachableSize(width, height));
     CInspectorView::ResizeInspector(contentWidth, height);
-    m_pContent->resize(contentWidth, height);
+    m_pContent->resize(ReachableSize(contentWidth, height));
     OnContentHeightSet();
 }
 
