@@ -21,7 +21,9 @@ void CInspectorView::IndexHolder(sInspectorHolder* holder)
 {
     ++m_ulIndexed;
     const auto [entry, isNew] = m_mapHolders.emplace(holder->m_pWidget, holder);
-    if (!isNew && std::less<>()(holder, entry->second))
+    // A widget may lie where one that is gone did; the first place of several counts.
+    if (!isNew && !holder->m_bWidgetGone &&
+        (entry->second->m_bWidgetGone || std::less<>()(holder, entry->second)))
         entry->second = holder;
 }
 
@@ -104,8 +106,9 @@ std::size_t CInspectorView::FindStop(CInspectorDataWidget* widget, bool first)
     const bool isOnlyPlace = m_mapHolders.size() == m_ulIndexed;
     if (known && isOnlyPlace && known->m_ulStop < stops.size() && stops[known->m_ulStop] == known)
         return known->m_ulStop;
-    const auto shows = [widget](const sInspectorHolder* stop)
-    { return stop && stop->m_pWidget == widget; };
+    const bool isGone = known && known->m_bWidgetGone;
+    const auto shows = [widget, isGone](const sInspectorHolder* stop)
+    { return stop && stop->m_pWidget == widget && stop->m_bWidgetGone == isGone; };
     if (first)
         return std::find_if(stops.begin(), stops.end(), shows) - stops.begin();
     const auto last = std::find_if(stops.rbegin(), stops.rend(), shows);

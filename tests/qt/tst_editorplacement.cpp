@@ -222,6 +222,21 @@ TEST_F(ChildEditor, EndsByAPressThatOnlyAWidgetLearnsOf)
     EXPECT_EQ(m_pHost->TakeCalls(), CCalls({"a changed 12", "a ended 4", "press"}));
 }
 
+TEST_F(ChildEditor, EndsByATouchElsewhere)
+{
+    static auto* const device = QTest::createTouchDevice();
+    QWidget& canvas = m_pHost->Canvas();
+    canvas.setAttribute(Qt::WA_AcceptTouchEvents);
+    Click(*m_pHost, "a");
+    Type(*m_pHost, "12");
+    QTest::touchEvent(&canvas, device).press(0, QPoint(5, 5), &canvas);
+    CCalls calls = m_pHost->TakeCalls();
+    calls.resize(2);
+    EXPECT_EQ(calls, CCalls({"a changed 12", "a ended 4"}));
+    EXPECT_TRUE(Editor().isHidden());
+    QTest::touchEvent(&canvas, device).release(0, QPoint(5, 5), &canvas);
+}
+
 TEST_F(ChildEditor, EndsBeforeThePressOpensItForAnotherField)
 {
     // An earlier end leaves its cause behind; it is not the one of this end.
@@ -640,6 +655,22 @@ TEST_F(ChildList, LetsTheHostRemoveTheRowThatTheFocusGoesTo)
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(box.isNull());
     EXPECT_TRUE(CQTEnumDataWidget::g_pInPlaceList == nullptr);
+}
+
+TEST_F(ChildList, CanBeOpenedAgainFromItsReport)
+{
+    Click(*m_pHost, "d");
+    m_pHost->m_OnEnd = [this]
+    {
+        m_pHost->m_OnEnd = {};
+        QTest::mousePress(&m_pHost->Row("d"), Qt::LeftButton);
+    };
+    Press(*m_pHost, Qt::Key_Escape);
+    EXPECT_TRUE(List().isVisible());
+    EXPECT_EQ(List().parentWidget(), m_pHost.get());
+    Press(*m_pHost, Qt::Key_Escape);
+    EXPECT_TRUE(List().isHidden());
+    EXPECT_EQ(m_pHost->TakeCalls(), CCalls({"d ended 0", "d ended 0"}));
 }
 
 TEST_F(ChildList, OutlivesThePaintingThatRemovesItsLastRow)

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
+
 #include <algorithm>
 #include <random>
 
@@ -157,5 +159,22 @@ TEST(Lookup, AnswersLikeAWalkThroughARandomHistory)
         const auto* widget = panel.m_vWidgets[random() % panel.m_vWidgets.size()].get();
         ASSERT_EQ(panel.m_view.GetHolderFromControl(const_cast<CRecordingWidget*>(widget)),
                   WalkFor(panel.m_view, widget));
+    }
+}
+
+TEST(Lookup, TellsAWidgetFromADeadOneThatLayInTheSamePlace)
+{
+    CLayoutPanel panel;
+    alignas(CRecordingWidget) unsigned char place[sizeof(CRecordingWidget)];
+    // Some of the new holders lie behind the old one in memory, some before it.
+    for (int round = 0; round < 8; ++round)
+    {
+        auto* dead = new (place) CRecordingWidget(panel.m_log);
+        panel.m_view.AddElement(nullptr, dead, "dead", nullptr, nullptr);
+        dead->~CRecordingWidget();
+        auto* widget = new (place) CRecordingWidget(panel.m_log);
+        const auto* holder = panel.m_view.AddElement(nullptr, widget, "row", nullptr, nullptr);
+        EXPECT_EQ(panel.m_view.GetHolderFromControl(widget), holder);
+        widget->~CRecordingWidget();
     }
 }
