@@ -40,14 +40,24 @@ protected:
     /// The title, where a node is taken to be moved.
     QPoint Title(int node) { return InView(Node(node).GetFrame().topLeft() + QPointF(60, 15)); }
 
-    void Press(const QPoint& place, Qt::KeyboardModifiers keys = Qt::NoModifier)
+    void Press(const QPoint& place, Qt::MouseButton button = Qt::LeftButton)
     {
-        QTest::mousePress(m_view.viewport(), Qt::LeftButton, keys, place);
+        QTest::mousePress(m_view.viewport(), button, Qt::NoModifier, place);
+        m_held = button;
     }
-    void MoveTo(const QPoint& place) { QTest::mouseMove(m_view.viewport(), place); }
+    void MoveTo(const QPoint& place)
+    {
+        if (m_held == Qt::NoButton)
+            return QTest::mouseMove(m_view.viewport(), place);
+        // Not every version of the test library remembers what it has pressed.
+        QMouseEvent event(QEvent::MouseMove, place, m_view.viewport()->mapToGlobal(place),
+                          Qt::NoButton, m_held, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_view.viewport(), &event);
+    }
     void Release(const QPoint& place)
     {
-        QTest::mouseRelease(m_view.viewport(), Qt::LeftButton, Qt::NoModifier, place);
+        QTest::mouseRelease(m_view.viewport(), m_held, Qt::NoModifier, place);
+        m_held = Qt::NoButton;
     }
     void Drag(const QPoint& from, const QPoint& to)
     {
@@ -73,4 +83,5 @@ protected:
     CGraphScene m_scene;
     CCanvasView m_view;
     CCanvasCommands m_commands;
+    Qt::MouseButton m_held = Qt::NoButton;
 };

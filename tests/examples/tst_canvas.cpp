@@ -189,9 +189,9 @@ TEST_F(CCanvasTest, PinsANodeAtItsPin)
 TEST_F(CCanvasTest, IsMovedWithTheMiddleButtonAndWithTheSpaceBar)
 {
     const QPointF before = m_view.mapToScene(0, 0);
-    QTest::mousePress(m_view.viewport(), Qt::MiddleButton, Qt::NoModifier, {400, 300});
+    Press({400, 300}, Qt::MiddleButton);
     MoveTo({450, 340});
-    QTest::mouseRelease(m_view.viewport(), Qt::MiddleButton, Qt::NoModifier, {450, 340});
+    Release({450, 340});
     EXPECT_EQ(m_view.mapToScene(0, 0), before - QPointF(50, 40));
     QTest::keyPress(&m_view, Qt::Key_Space);
     Drag({450, 340}, {400, 300});

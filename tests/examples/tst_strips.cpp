@@ -78,9 +78,9 @@ TEST_F(CStripTest, LieWithinTheirNodesWhereverTheseAre)
     expectInside();
     m_view.Zoom(1.5, QPoint(100, 100));
     expectInside();
-    QTest::mousePress(m_view.viewport(), Qt::MiddleButton, Qt::NoModifier, {10, 10});
+    Press({10, 10}, Qt::MiddleButton);
     MoveTo({60, 60});
-    QTest::mouseRelease(m_view.viewport(), Qt::MiddleButton, Qt::NoModifier, {60, 60});
+    Release({60, 60});
     expectInside();
     Drag(Title(m_iFirst), Title(m_iFirst) + QPoint(40, 40));
     expectInside();

@@ -1,6 +1,7 @@
 #include "hand.h"
 
 #include <QApplication>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QTest>
@@ -59,7 +60,14 @@ bool CHand::Drag(QWidget* widget, const QPoint& from, const QPoint& to, bool sta
         return false;
     QTest::mousePress(widget, Qt::LeftButton, Qt::NoModifier, from);
     for (int step = 1; step <= g_iStepsOfDrag; ++step)
-        Move(widget, from + (to - from) * step / g_iStepsOfDrag);
+    {
+        const QPoint place = from + (to - from) * step / g_iStepsOfDrag;
+        m_place = widget->mapToGlobal(place);
+        // Not every version of the test library remembers what it has pressed.
+        QMouseEvent event(QEvent::MouseMove, place, m_place, Qt::NoButton, Qt::LeftButton,
+                          Qt::NoModifier);
+        QCoreApplication::sendEvent(widget, &event);
+    }
     return stays || Release(widget, to);
 }
 
