@@ -347,6 +347,17 @@ TEST_F(HooksAndFocus, AChoiceThatIsRemovedAsItIsPressedOpensNothing)
     EXPECT_TRUE(CQTEnumDataWidget::g_pInPlaceList->isHidden());
 }
 
+TEST_F(HooksAndFocus, AChoiceThatLosesItsEntriesAsItIsPressedOpensNothing)
+{
+    const auto open = AddChoice("open");
+    const auto pressed = AddChoice("pressed");
+    Press(open.m_pWidget);
+    open.m_pElement->m_fnOnEndEditing = [&] { pressed.m_pElement->SetExternalEnum(nullptr); };
+    Press(pressed.m_pWidget);
+    EXPECT_EQ(Ends("open"), 1u);
+    EXPECT_TRUE(CQTEnumDataWidget::g_pInPlaceList->isHidden());
+}
+
 TEST_F(HooksAndFocus, TheListGoesWithTheLastRowAlsoWhenThatRowIsBeingPressed)
 {
     const auto row = AddChoice("row");

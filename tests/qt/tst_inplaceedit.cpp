@@ -135,6 +135,21 @@ TEST_F(LineEditor, StartsWithTheWholeTextSelected)
     m_editor.HideSilently();
 }
 
+TEST_F(LineEditor, SelectsAllOfAValueThatNobodyTypedOverWhenTheKeyboardComesBack)
+{
+    const auto comeBack = [this]
+    {
+        m_editor.deselect();
+        QFocusEvent back(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+        QCoreApplication::sendEvent(&m_editor, &back);
+        return m_editor.selectedText();
+    };
+    Open();
+    EXPECT_EQ(comeBack(), QStringLiteral("start"));
+    Type("12");
+    EXPECT_EQ(comeBack(), QString());
+}
+
 TEST_F(LineEditor, StaysWhereItWasOpened)
 {
     Open();
