@@ -45,8 +45,8 @@ void CInspectorController::sInspectorControllerData::DeleteWidget()
 
 void CInspectorController::IndexRow(CRows::iterator row)
 {
-    // Until somebody asks for a row there is no index. Only the first row of an element can be asked
-    // for.
+    // Until somebody asks for a row there is no index. Only the first row of an element can be
+    // asked for.
     const bool isUsed = m_ulIndexed > 0 && m_ulIndexed + 1 == m_lItems.size();
     if (isUsed && std::next(row) == m_lItems.end())
     {
