@@ -1,4 +1,5 @@
 #include "graphediting.h"
+#include "smallfiles.h"
 
 #include <gegl/graphreader.h>
 #include <gegl/graphwriter.h>
@@ -12,10 +13,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
-#include <csignal>
 #include <cstdlib>
-
-#include <sys/resource.h>
 
 namespace
 {
@@ -105,30 +103,6 @@ QImage PictureOfTheProgram(const QString& graph)
     return QImage(picture).convertToFormat(QImage::Format_RGBA8888);
 }
 #endif
-
-/// While it lives, no file grows beyond a size: writing fails in the middle.
-class CSmallFiles
-{
-public:
-    explicit CSmallFiles(rlim_t size)
-    {
-        m_signal = std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit small{size, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~CSmallFiles()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_signal);
-    }
-    CSmallFiles(const CSmallFiles&) = delete;
-    CSmallFiles& operator=(const CSmallFiles&) = delete;
-
-private:
-    rlimit m_before{};
-    void (*m_signal)(int);
-};
 
 } // namespace
 
