@@ -358,6 +358,24 @@ TEST_F(HooksAndFocus, AChoiceThatLosesItsEntriesAsItIsPressedOpensNothing)
     EXPECT_TRUE(CQTEnumDataWidget::g_pInPlaceList->isHidden());
 }
 
+TEST_F(HooksAndFocus, AWindowThatTheHostOpensAtTheEndOfAnEditKeepsTheKeyboard)
+{
+    const auto field = AddField("field");
+    field.m_pWidget->StartEditing();
+    QWidget* editor = CQTSimpleDataWidget::g_pInPlace;
+    ASSERT_TRUE(QTest::qWaitForWindowActive(editor));
+    QWidget dialog;
+    field.m_pElement->m_fnOnEndEditing = [&dialog]
+    {
+        dialog.show();
+        dialog.activateWindow();
+    };
+    QTest::keyClick(editor, Qt::Key_Return);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    QTest::qWait(50);
+    EXPECT_EQ(QApplication::activeWindow(), &dialog);
+}
+
 TEST_F(HooksAndFocus, TheListGoesWithTheLastRowAlsoWhenThatRowIsBeingPressed)
 {
     const auto row = AddChoice("row");
