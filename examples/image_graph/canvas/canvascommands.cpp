@@ -137,6 +137,7 @@ void CCanvasCommands::Duplicate()
     if (nodes.empty())
         return;
     std::vector<QRectF> frames;
+    frames.reserve(nodes.size());
     for (const int node : nodes)
         frames.push_back(m_scene.FindNode(node)->GetFrame());
     const QPointF aside(nodelook::g_dWidth + sLayoutSpacing().m_dBetweenColumns, 0);

@@ -144,7 +144,7 @@ QPainterPath CConnectTool::GetPath() const
 
 sPadRef CConnectTool::FindTarget(const QPointF& place) const
 {
-    const sPadRef pad = m_scene.PadAt(place);
+    sPadRef pad = m_scene.PadAt(place);
     if (pad.IsValid() && pad != m_fixed)
         return pad;
     const CNodeItem* node = m_scene.NodeAt(place);

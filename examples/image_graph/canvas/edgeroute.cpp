@@ -71,7 +71,7 @@ qreal Length(const CEdgeRoute& route)
 
 CEdgeRoute RouteEdge(const QPointF& from, const QPointF& to, const std::vector<QRectF>& obstacles)
 {
-    const CEdgeRoute straight = {from, to};
+    CEdgeRoute straight = {from, to};
     const bool isDown = from.y() + 2 * g_dTurn <= to.y();
     if (from.y() < to.y() && (!isDown || IsFree(straight, obstacles)))
         return straight;

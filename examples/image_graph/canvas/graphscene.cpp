@@ -80,7 +80,7 @@ sPadRef CGraphScene::PadAt(const QPointF& place) const
 {
     for (const auto& [id, item] : m_vNodes)
     {
-        const sPadRef pad = item->PadAt(place);
+        sPadRef pad = item->PadAt(place);
         if (pad.IsValid())
             return pad;
     }
