@@ -15,7 +15,13 @@
 namespace
 {
 
-QElapsedTimer g_sinceReturn; ///< since some editor gave the keyboard back
+QElapsedTimer g_sinceReturn; ///< since some editor gave the keyboard back, if it may be on its way
+
+/// Whether a server and a window manager have their say about the keyboard, now and again later.
+bool IsKeyboardNegotiated()
+{
+    return QGuiApplication::platformName() == QLatin1String("xcb");
+}
 
 /// Whether editors float in the window of their owner.
 bool FloatsAsChild()
@@ -52,6 +58,9 @@ void CEditorPlacement::Show(QWidget& owner, const QRect& rect)
     m_rEditor.setWindowFlags(Qt::ToolTip);
     // After the flags, a change of which moves a window on platforms that count in its frame.
     m_rEditor.setGeometry(rect);
+    const bool isReturned = QGuiApplication::focusWindow() == m_pOwnerWindow->windowHandle();
+    if (isReturned && !IsKeyboardNegotiated())
+        g_sinceReturn.invalidate();
     m_rEditor.show();
     m_rEditor.activateWindow();
     // Hidden and shown in one event, the window never lost the focus as far as the platform can
@@ -60,10 +69,10 @@ void CEditorPlacement::Show(QWidget& owner, const QRect& rect)
     const bool isForgotten = hadFocus && !m_rEditor.isActiveWindow();
     if (isForgotten)
         TakeAsActive(m_rEditor);
-    // The last editor gave the keyboard back, which the server may do only now.
+    // The last editor gave the keyboard back, which may take effect only now.
     const bool isReturnDue =
         g_sinceReturn.isValid() && !g_sinceReturn.hasExpired(COutsidePress::FallbackTime);
-    if (isForgotten || isReturnDue)
+    if (isReturnDue || (isForgotten && IsKeyboardNegotiated()))
         m_OutsidePress.ExpectFallback(*m_pOwnerWindow);
 }
 

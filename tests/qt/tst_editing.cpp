@@ -538,6 +538,34 @@ TEST_F(Editing, StaysOpenThoughTheKeyboardOfTheLastEndComesBackLate)
     EXPECT_EQ(m_log.Count("field.element.OnEndEditing"), 3U);
 }
 
+TEST_F(Editing, EndsWhenTheOwnersWindowIsActivatedSoonAfterAnotherEdit)
+{
+    CField& first = AddField("first");
+    CField& second = AddField("second");
+    ASSERT_NO_FATAL_FAILURE(Open());
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape, Qt::Key_Tab})
+    {
+        SCOPED_TRACE(static_cast<int>(key));
+        m_log.Clear();
+        QTest::mouseClick(&first, Qt::LeftButton);
+        ExpectEditing(first);
+        QTest::keyClick(&Editor(), key);
+        if (key != Qt::Key_Tab)
+        {
+            EXPECT_TRUE(QTest::qWaitForWindowActive(m_pPanel->window()));
+            QTest::mouseClick(&second, Qt::LeftButton);
+        }
+        ExpectEditing(second);
+        Type("12");
+        // On an X server, it looks the same for a while as the late return of the keyboard.
+        if (QGuiApplication::platformName() == QLatin1String("xcb"))
+            QTest::qWait(600);
+        m_pPanel->window()->activateWindow();
+        EXPECT_TRUE(QTest::qWaitFor([this] { return Editor().isHidden(); }));
+        EXPECT_EQ(m_log.Count("second.element.OnEndEditing"), 1U);
+    }
+}
+
 TEST_F(Editing, DropsTheListDownForTheRowThatIsPressedWhateverTheEndOfTheOtherChoiceBrings)
 {
     CQTEnumDataWidget* choices[3];
