@@ -103,6 +103,18 @@ protected:
         return *box;
     }
 
+    /// A row with one entry to choose.
+    CQTEnumDataWidget& AddChoice()
+    {
+        auto* choice = new CQTEnumDataWidget;
+        auto* element = new CEnumDataElement;
+        element->CreateEnum();
+        element->AddEnum("one", "One");
+        m_controller.AddItem(element, choice, nullptr);
+        m_pPanel->AddElement(element, choice, "choice", nullptr, nullptr);
+        return *choice;
+    }
+
     CElement& ElementOf(CField& field) { return *m_mapElements.at(&field); }
 
     /// Shows the panel and gives its window the keyboard; forgets the calls so far.
@@ -480,12 +492,7 @@ TEST_F(Editing, KeepsItsKeysFromTheShortcutsOfTheHost)
 
 TEST_F(Editing, KeepsTheKeyThatClosesTheListFromTheShortcutsOfTheHost)
 {
-    auto* choice = new CQTEnumDataWidget;
-    auto* element = new CEnumDataElement;
-    element->CreateEnum();
-    element->AddEnum("one", "One");
-    m_controller.AddItem(element, choice, nullptr);
-    m_pPanel->AddElement(element, choice, "choice", nullptr, nullptr);
+    CQTEnumDataWidget& choice = AddChoice();
     ASSERT_NO_FATAL_FAILURE(Open());
     int triggered = 0;
     const Qt::Key keys[] = {Qt::Key_Delete, Qt::Key_Space, Qt::Key_X, Qt::Key_Escape,
@@ -499,7 +506,7 @@ TEST_F(Editing, KeepsTheKeyThatClosesTheListFromTheShortcutsOfTheHost)
     CInPlaceList& list = *CQTEnumDataWidget::g_pInPlaceList;
     for (const Qt::Key key : keys)
     {
-        Click(*choice);
+        Click(choice);
         EXPECT_TRUE(list.isVisible());
         QTest::keyClick(&list, key);
         EXPECT_TRUE(list.isHidden());
@@ -509,12 +516,7 @@ TEST_F(Editing, KeepsTheKeyThatClosesTheListFromTheShortcutsOfTheHost)
 
 TEST_F(Editing, StaysOpenThoughTheKeyboardOfTheLastEndComesBackLate)
 {
-    auto* choice = new CQTEnumDataWidget;
-    auto* element = new CEnumDataElement;
-    element->CreateEnum();
-    element->AddEnum("one", "One");
-    m_controller.AddItem(element, choice, nullptr);
-    m_pPanel->AddElement(element, choice, "choice", nullptr, nullptr);
+    CQTEnumDataWidget& choice = AddChoice();
     CField& field = AddField("field");
     ASSERT_NO_FATAL_FAILURE(Open());
     CInPlaceList& list = *CQTEnumDataWidget::g_pInPlaceList;
@@ -522,10 +524,10 @@ TEST_F(Editing, StaysOpenThoughTheKeyboardOfTheLastEndComesBackLate)
     // open already.
     for (int round = 0; round < 3; ++round)
     {
-        QTest::mouseClick(choice, Qt::LeftButton);
+        QTest::mouseClick(&choice, Qt::LeftButton);
         QTest::qWait(200);
         QTest::keyClick(&list, Qt::Key_Return);
-        QTest::mouseClick(choice, Qt::LeftButton);
+        QTest::mouseClick(&choice, Qt::LeftButton);
         QTest::qWait(200);
         EXPECT_TRUE(list.isVisible());
         QTest::keyClick(&list, Qt::Key_Return);

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QPicture>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -311,6 +312,27 @@ TEST(QtInspectorViewRepainting, ShowsInTheSameFrameWhatANoticeOfARowDid)
             painter.Text("Radius", 5, 30, panel.LabelWidth("Radius"), 20);
         });
     EXPECT_EQ(panel.m_log.Containing("HandleDirtyItem").size(), 1U);
+}
+
+TEST(QtInspectorViewRepainting, PaintsAFurtherFrameForWhatADeliveryQueued)
+{
+    sPaintedPanel panel;
+    auto* control = new CTestControl(panel.m_log, "Size", -1);
+    auto* element = new CSimpleDataElement;
+    panel.m_controller.AddItem(element, control, nullptr);
+    panel.m_view.AddElement(element, control, "Size", nullptr, nullptr);
+    panel.m_view.ResizeInspector(300, 100);
+    panel.m_view.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&panel.m_view));
+    QTest::qWait(50);
+    int frames = 0;
+    // Too late for this frame: the notices for the whole panel were handled before those of rows.
+    panel.m_controller.m_fnHandleDirtyItem = [&](auto*, auto*)
+    { panel.m_controller.DirtifyController(new CRecordingNotice(panel.m_log, "notice")); };
+    panel.m_controller.m_fnHandleControllerDirt = [&](auto&) { ++frames; };
+    panel.m_controller.DirtifyItem(panel.m_controller.RecordAt(0), nullptr);
+    EXPECT_TRUE(QTest::qWaitFor([&frames] { return frames > 0; }, 1000));
+    EXPECT_EQ(frames, 1);
 }
 
 TEST(QtInspectorViewRepainting, AsksForNoticesWhateverItPaints)
