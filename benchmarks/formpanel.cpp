@@ -1,4 +1,4 @@
-#include "panel.h"
+#include "qtpanel.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -15,7 +15,7 @@
 namespace
 {
 
-class CFormPanel : public CPanel
+class CFormPanel : public CQtPanel
 {
 public:
     CFormPanel()
@@ -75,7 +75,11 @@ public:
             ChangeValue(row, round);
     }
 
-    void RemoveRow(int row) override { m_vRows[row].m_pForm->removeRow(m_vRows[row].m_pEditor); }
+    void RemoveRows(const std::vector<int>& rows) override
+    {
+        for (int row : rows)
+            m_vRows[row].m_pForm->removeRow(m_vRows[row].m_pEditor);
+    }
 
     void Clear() override
     {

@@ -1,4 +1,4 @@
-#include "panel.h"
+#include "qtpanel.h"
 
 #include <booldataelement.h>
 #include <buttondataelement.h>
@@ -54,7 +54,7 @@ public:
     const std::list<sInspectorControllerData*>& GetItems() const { return m_lItems; }
 };
 
-class CInspectorPanel : public CPanel
+class CInspectorPanel : public CQtPanel
 {
 public:
     CInspectorPanel()
@@ -104,10 +104,13 @@ public:
             m_controller.DirtifyItem(row.m_pRecord, new sNewValue(NextValue(row.m_plan, round)));
     }
 
-    void RemoveRow(int row) override
+    void RemoveRows(const std::vector<int>& rows) override
     {
-        for (CInspectorDataElement* element : m_vRows[row].m_vAll)
-            m_controller.RemoveItem(element);
+        for (int row : rows)
+        {
+            for (CInspectorDataElement* element : m_vRows[row].m_vAll)
+                m_controller.RemoveItem(element);
+        }
     }
 
     void Clear() override

@@ -1,7 +1,5 @@
 #include "task.h"
 
-#include <QApplication>
-
 #include <valgrind/callgrind.h>
 
 #include <cstdio>
@@ -10,16 +8,16 @@
 
 // Runs one task, to be counted by callgrind: instructions TASK ROWS|FILE [TWIN [WARM-UP]].
 
-int main(int argc, char** argv)
+namespace
+{
+
+int RunTask(int argc, char** argv)
 {
     if (argc < 3)
         return 1;
     const std::string rows = argv[2];
     const std::string twinName = argc > 3 ? argv[3] : "inspector";
     const int warmUp = argc > 4 ? std::atoi(argv[4]) : 1;
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
     const bool isNumber = rows.find_first_not_of("0123456789") == std::string::npos;
     const CRowPlan plan = isNumber ? MakeRowPlan(std::stoi(rows)) : ReadRowPlan(rows);
     for (const sTask& task : AllTasks())
@@ -44,4 +42,11 @@ int main(int argc, char** argv)
     }
     std::fprintf(stderr, "no such task or twin\n");
     return 1;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    return RunWithToolkit(argc, argv, RunTask);
 }

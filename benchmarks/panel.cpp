@@ -1,16 +1,5 @@
 #include "panel.h"
 
-#include <QCoreApplication>
-#include <QEvent>
-
-void CPanel::Paint()
-{
-    // A window that was just shown must first hear from the platform that it is exposed.
-    QCoreApplication::processEvents();
-    QEvent request(QEvent::UpdateRequest);
-    QCoreApplication::sendEvent(&Window(), &request);
-}
-
 std::string NextValue(const sPlannedRow& row, int round)
 {
     switch (row.m_eKind)

@@ -2,8 +2,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
-
 #include <ctime>
 #include <map>
 #include <string>
@@ -33,7 +31,8 @@ void RunTask(benchmark::State& state, const sTask& task, const sTwin& twin, cons
     }
 }
 
-/// A task that takes long at this size, because the twin's own way is quadratic, is left out.
+/// A task that takes long at this size is left out: the twin's own way is quadratic, or each step
+/// waits for the display.
 bool IsTooLong(const sTask& task, const sTwin& twin, int rows)
 {
     const bool isOurs = twin.m_sName == "inspector";
@@ -44,13 +43,8 @@ bool IsTooLong(const sTask& task, const sTwin& twin, int rows)
     return rows > 1000 && task.m_sName == "tab-through";
 }
 
-} // namespace
-
-int main(int argc, char** argv)
+int RunBenchmarks(int argc, char** argv)
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
     std::map<std::string, CRowPlan> plans;
     for (int rows : {100, 1000, 10000, 100000})
         plans[std::to_string(rows)] = MakeRowPlan(rows);
@@ -78,4 +72,11 @@ int main(int argc, char** argv)
         return 1;
     benchmark::RunSpecifiedBenchmarks();
     return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    return RunWithToolkit(argc, argv, RunBenchmarks);
 }

@@ -63,13 +63,7 @@ void TabThrough(CPanel& panel, const CRowPlan&, int)
     }
 }
 
-void RemoveRows(CPanel& panel, std::vector<int>& rows)
-{
-    for (int row : rows)
-        panel.RemoveRow(row);
-}
-
-std::vector<int> RowNumbers(const CPanel&, int count)
+std::vector<int> RowNumbers(int count)
 {
     std::vector<int> rows(count);
     std::iota(rows.begin(), rows.end(), 0);
@@ -78,22 +72,21 @@ std::vector<int> RowNumbers(const CPanel&, int count)
 
 void RemoveInOrder(CPanel& panel, const CRowPlan&, int)
 {
-    std::vector<int> rows = RowNumbers(panel, panel.GetRowCount());
-    RemoveRows(panel, rows);
+    panel.RemoveRows(RowNumbers(panel.GetRowCount()));
 }
 
 void RemoveInReverse(CPanel& panel, const CRowPlan&, int)
 {
-    std::vector<int> rows = RowNumbers(panel, panel.GetRowCount());
+    std::vector<int> rows = RowNumbers(panel.GetRowCount());
     std::reverse(rows.begin(), rows.end());
-    RemoveRows(panel, rows);
+    panel.RemoveRows(rows);
 }
 
 void RemoveAtRandom(CPanel& panel, const CRowPlan&, int)
 {
-    std::vector<int> rows = RowNumbers(panel, panel.GetRowCount());
+    std::vector<int> rows = RowNumbers(panel.GetRowCount());
     std::shuffle(rows.begin(), rows.end(), std::mt19937(1));
-    RemoveRows(panel, rows);
+    panel.RemoveRows(rows);
 }
 
 void Clear(CPanel& panel, const CRowPlan&, int)
@@ -120,16 +113,6 @@ const std::vector<sTask>& AllTasks()
         {"clear", sTask::eFilledPanel, Clear, 1},
     };
     return tasks;
-}
-
-const std::vector<sTwin>& AllTwins()
-{
-    static const std::vector<sTwin> twins{
-        {"inspector", MakeInspectorPanel},
-        {"form", MakeFormPanel},
-        {"tree", MakeTreePanel},
-    };
-    return twins;
 }
 
 CTaskPanel::CTaskPanel(const sTask& task, const sTwin& twin, const CRowPlan& plan)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "panel.h"
+#include "toolkit.h"
 
 #include <memory>
 #include <string>
@@ -25,14 +25,6 @@ struct sTask
 };
 
 const std::vector<sTask>& AllTasks();
-
-struct sTwin
-{
-    std::string m_sName;
-    std::unique_ptr<CPanel> (*m_pMake)();
-};
-
-const std::vector<sTwin>& AllTwins();
 
 /// Provides a task with the panel it needs, as often as it is asked.
 class CTaskPanel

@@ -1,4 +1,4 @@
-#include "panel.h"
+#include "qtpanel.h"
 #include "treemodel.h"
 
 #include <QApplication>
@@ -52,7 +52,7 @@ public:
     }
 };
 
-class CTreePanel : public CPanel
+class CTreePanel : public CQtPanel
 {
 public:
     CTreePanel()
@@ -95,7 +95,11 @@ public:
             ChangeValue(row, round);
     }
 
-    void RemoveRow(int row) override { m_model.RemoveRow(row); }
+    void RemoveRows(const std::vector<int>& rows) override
+    {
+        for (int row : rows)
+            m_model.RemoveRow(row);
+    }
 
     void Clear() override { m_model.Clear(); }
 
