@@ -21,8 +21,8 @@ class QScrollBar;
 ///
 /// The wheel scrolls by three text rows a notch, wherever the pointer is in the panel.
 ///
-/// A control of the library that is out of sight is placed at once, but has its move and resize
-/// events when it comes into sight.
+/// A control of the library that is out of sight counts as shown and is placed at once, but has its
+/// show, move and resize events when it first comes into sight.
 class INSPECTOR_EXPORT CQTInspectorView : public QWidget, public CInspectorView
 {
     Q_OBJECT

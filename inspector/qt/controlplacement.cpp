@@ -1,6 +1,7 @@
 #include "controlplacement.h"
 
 #include "paintedwithpanel.h"
+#include "panelcontent.h"
 
 #include <qtsimpleboolwidget.h>
 #include <qtsimpledatawidget.h>
@@ -25,11 +26,11 @@ bool LooksTheSameElsewhere(const QWidget& control)
 }
 
 /// Whether the toolkit need not be told of a change of geometry. Out of sight, it is told only of
-/// what may have windows of its own.
+/// what may have windows of its own; of what it has not created yet, it takes note by itself.
 bool IsPlacedQuietly(const QWidget& control, bool isSeen)
 {
     if (!control.testAttribute(Qt::WA_WState_Created))
-        return false;
+        return true;
     return isSeen ? IsPaintedWithPanel(control)
                   : control.children().isEmpty() && !control.internalWinId();
 }
@@ -50,6 +51,19 @@ public:
 private:
     QWidget& m_rControl;
 };
+
+/// Changes the geometry of a control, quietly or not.
+template <typename Change>
+void ChangeControl(QWidget& control, bool isQuiet, Change change)
+{
+    if (!isQuiet || !control.testAttribute(Qt::WA_WState_Created))
+    {
+        change();
+        return;
+    }
+    const CUnseen unseen(control);
+    change();
+}
 
 /// Sends the events that a shown control is owed. \p before is where it was, if it was in sight.
 void SendOwedEvents(QWidget& control, const QRect& before)
@@ -83,6 +97,11 @@ CWholePlacement::~CWholePlacement()
     g_pPlacement = m_pOuter;
     if (m_pPanel && !m_bPixelsMoved)
         m_pPanel->update();
+    for (const QPointer<QWidget>& control : m_vRevealed)
+    {
+        if (m_pPanel && control && IsToBeRevealed(*control) && IsSeen(control->geometry()))
+            RevealControl(*control);
+    }
 }
 
 CWholePlacement* CWholePlacement::Of(const QWidget& control)
@@ -94,10 +113,7 @@ CWholePlacement* CWholePlacement::Of(const QWidget& control)
 
 bool CWholePlacement::IsSeen(const QRect& area) const
 {
-    // By its corners: its width and height may be more than the toolkit's own rectangle can tell.
-    const QPoint end = m_pContent->geometry().bottomRight() - m_pContent->geometry().topLeft();
-    return area.bottom() >= 0 && area.top() <= end.y() && area.right() >= 0 &&
-           area.left() <= end.x();
+    return IsInSight(*m_pContent, area);
 }
 
 void CWholePlacement::Move(QWidget& control, const QPoint& place, bool isPlain)
@@ -109,19 +125,11 @@ void CWholePlacement::Move(QWidget& control, const QPoint& place, bool isPlain)
     const bool isQuiet = isThere || IsPlacedQuietly(control, isSeen);
     if (isSeen && m_iShift != 0)
         NoteMove(control, place - before.topLeft(), isQuiet);
-    if (!isQuiet)
-    {
-        control.move(place);
-        return;
-    }
     if (!isThere)
-    {
-        const CUnseen unseen(control);
-        control.move(place);
-    }
+        ChangeControl(control, isQuiet, [&] { control.move(place); });
     // Also for a control that stays: the panel may have grown down to it.
-    if (isSeen || !isPlain)
-        SendOwedEvents(control, before);
+    if (isQuiet && (isSeen || !isPlain))
+        TellControl(control, before, isPlain);
 }
 
 void CWholePlacement::Resize(QWidget& control, const QSize& size, bool isPlain)
@@ -130,17 +138,18 @@ void CWholePlacement::Resize(QWidget& control, const QSize& size, bool isPlain)
     if (before.size() == size && control.testAttribute(Qt::WA_Resized))
         return;
     const bool isSeen = IsSeen(before) || IsSeen(QRect(before.topLeft(), size));
-    if (!IsPlacedQuietly(control, isSeen))
-    {
-        control.resize(size);
-        return;
-    }
-    {
-        const CUnseen unseen(control);
-        control.resize(size);
-    }
-    if (isSeen || !isPlain)
+    const bool isQuiet = IsPlacedQuietly(control, isSeen);
+    ChangeControl(control, isQuiet, [&] { control.resize(size); });
+    if (isQuiet && (isSeen || !isPlain))
+        TellControl(control, before, isPlain);
+}
+
+void CWholePlacement::TellControl(QWidget& control, const QRect& before, bool isPlain)
+{
+    if (!isPlain || !IsToBeRevealed(control))
         SendOwedEvents(control, before);
+    else if (IsSeen(control.geometry()))
+        m_vRevealed.emplace_back(&control);
 }
 
 void CWholePlacement::NoteMove(const QWidget& control, const QPoint& way, bool isQuiet)
@@ -165,7 +174,7 @@ void MoveControl(QWidget& control, const QPoint& place, const std::type_info& ty
     if (CWholePlacement* placement = CWholePlacement::Of(control))
         placement->Move(control, place, typeid(control) == type);
     else
-        control.move(place);
+        ChangeControl(control, IsToBeRevealed(control), [&] { control.move(place); });
 }
 
 void ResizeControl(QWidget& control, const QSize& size, const std::type_info& type)
@@ -173,5 +182,5 @@ void ResizeControl(QWidget& control, const QSize& size, const std::type_info& ty
     if (CWholePlacement* placement = CWholePlacement::Of(control))
         placement->Resize(control, size, typeid(control) == type);
     else
-        control.resize(size);
+        ChangeControl(control, IsToBeRevealed(control), [&] { control.resize(size); });
 }

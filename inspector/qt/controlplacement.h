@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <typeinfo>
+#include <vector>
 
 /// While one lives, the controls of a panel are placed, and ask for no repaints: the panel is
 /// repainted as a whole at its end, unless its pixels were moved instead.
@@ -40,6 +41,8 @@ private:
     bool IsSeen(const QRect& area) const;
     /// Takes note of a control in sight that is about to be moved.
     void NoteMove(const QWidget& control, const QPoint& way, bool isQuiet);
+    /// Sends a control the events of a quiet change, or takes note that it is to be revealed.
+    void TellControl(QWidget& control, const QRect& before, bool isPlain);
 
     QPointer<QWidget> m_pPanel;
     const QWidget* const m_pContent;
@@ -48,6 +51,7 @@ private:
     bool m_bShifted = true; ///< all that is in sight moved by the shift
     bool m_bPixelsMoved = false;
     int m_iMoves = 0;
+    std::vector<QPointer<QWidget>> m_vRevealed; ///< if they are in sight in the end
     QRegion m_regionDrawnAnew; ///< of controls that may look different where they are now
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controlplacement.h"
+#include "panelcontent.h"
 
 #include <algorithm>
 
@@ -31,7 +32,7 @@ inline QSize ReachableSize(int width, int height)
     }                                                                                              \
     void Widget::Show()                                                                            \
     {                                                                                              \
-        show();                                                                                    \
+        ShowControl(*this, typeid(Widget));                                                        \
     }                                                                                              \
     void Widget::Hide()                                                                            \
     {                                                                                              \

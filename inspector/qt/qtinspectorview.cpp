@@ -6,6 +6,7 @@
 
 #include "../view/pixels.h"
 #include "layoutoperations.h"
+#include "panelcontent.h"
 #include "text.h"
 #include "wheelfilter.h"
 
@@ -27,10 +28,8 @@ constexpr int g_iRowsPerNotch = 3;
 } // namespace
 
 CQTInspectorView::CQTInspectorView()
-    : m_pContent(new QWidget(this)), m_pScrollBar(new QScrollBar(this))
+    : m_pContent(new CPanelContent(*this)), m_pScrollBar(new QScrollBar(this))
 {
-    // It lies over labels and frames: what a style sheet fills all widgets with must not hide them.
-    m_pContent->setAttribute(Qt::WA_NoSystemBackground);
     m_pContent->show();
     m_pScrollBar->hide();
     connect(m_pScrollBar, SIGNAL(valueChanged(int)), this, SLOT(SliderValueChanged(int)));

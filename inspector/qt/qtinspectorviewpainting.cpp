@@ -1,5 +1,6 @@
 #include <qtinspectorview.h>
 
+#include "panelcontent.h"
 #include "panelrepaint.h"
 #include "text.h"
 
@@ -43,6 +44,7 @@ void CQTInspectorView::paintEvent(QPaintEvent* event)
         const CPaintAhead ahead(m_pContent, m_bRepaintAsked ? event->region() : QRegion());
         m_bRepaintAsked = false;
         OnPreDraw();
+        static_cast<CPanelContent*>(m_pContent)->RevealNewControls();
     }
     QWidget::paintEvent(event);
     QPainter painter(this);

@@ -1,0 +1,133 @@
+#include "panelcontent.h"
+
+#include "panelrepaint.h"
+
+#include <qtbuttonwidget.h>
+#include <qtenumdatawidget.h>
+#include <qtsimpleboolwidget.h>
+#include <qtsimpledatawidget.h>
+#include <qtstaticwidget.h>
+
+#include <QAccessible>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QPointer>
+
+#include <unordered_set>
+#include <utility>
+#include <vector>
+
+namespace
+{
+
+template <typename... Widgets>
+bool IsOneOf(const QWidget& control)
+{
+    return (... || (typeid(control) == typeid(Widgets)));
+}
+
+/// Whether nobody but the toolkit itself can tell that a control was not revealed.
+bool CanWait(const QWidget& control)
+{
+    const bool isPlain = IsOneOf<CQTSimpleDataWidget, CQTSimpleBoolWidget, CQTEnumDataWidget,
+                                 CQTButtonWidget, CQTStaticWidget>(control);
+    return isPlain && control.children().isEmpty() && !control.isWindow() &&
+           !control.testAttribute(Qt::WA_NativeWindow) && !control.internalWinId();
+}
+
+} // namespace
+
+CPanelContent::CPanelContent(QWidget& panel) : QWidget(&panel)
+{
+    // It lies over labels and frames: what a style sheet fills all widgets with must not hide them.
+    setAttribute(Qt::WA_NoSystemBackground);
+    // Its size is the panel's business, not that of what lies in it.
+    setAttribute(Qt::WA_Resized);
+}
+
+void CPanelContent::setVisible(bool visible)
+{
+    if (visible && isVisible())
+        return;
+    std::vector<QWidget*> waiting;
+    const QObjectList before = children();
+    for (QObject* child : before)
+    {
+        auto* control = static_cast<QWidget*>(child);
+        if (!visible || !child->isWidgetType() || !IsToBeRevealed(*control) || !CanWait(*control))
+            continue;
+        control->setAttribute(Qt::WA_WState_Hidden);
+        waiting.push_back(control);
+    }
+    QWidget::setVisible(visible);
+    if (!waiting.empty())
+        ComeByAgain();
+    // Whoever learned of the showing may have removed some.
+    const bool areAllThere = children() == before;
+    const std::unordered_set<const QObject*> rest =
+        areAllThere ? std::unordered_set<const QObject*>()
+                    : std::unordered_set<const QObject*>(children().begin(), children().end());
+    for (QWidget* control : waiting)
+    {
+        if (!areAllThere && rest.count(control) == 0)
+            continue;
+        CountAsShown(*control);
+    }
+}
+
+void CPanelContent::CountAsShown(QWidget& control) const
+{
+    control.setAttribute(Qt::WA_WState_Hidden, false);
+    control.setAttribute(Qt::WA_WState_Visible, isVisible());
+    control.setAttribute(Qt::WA_WState_Created, testAttribute(Qt::WA_WState_Created));
+}
+
+void CPanelContent::ComeByAgain()
+{
+    setAttribute(Qt::WA_WState_ExplicitShowHide, false);
+}
+
+void CPanelContent::RevealNewControls()
+{
+    if (!std::exchange(m_bNewControls, false))
+        return;
+    std::vector<QPointer<QWidget>> seen;
+    for (QObject* child : children())
+    {
+        auto* control = static_cast<QWidget*>(child);
+        if (child->isWidgetType() && IsToBeRevealed(*control) &&
+            IsInSight(*this, control->geometry()))
+            seen.emplace_back(control);
+    }
+    for (const QPointer<QWidget>& control : seen)
+    {
+        if (control)
+            RevealControl(*control);
+    }
+}
+
+void ShowControl(QWidget& control, const std::type_info& type)
+{
+    auto* content =
+        typeid(control) == type ? dynamic_cast<CPanelContent*>(control.parentWidget()) : nullptr;
+    if (!content || !CanWait(control) || QAccessible::isActive() ||
+        control.testAttribute(Qt::WA_WState_ExplicitShowHide))
+    {
+        control.show();
+        return;
+    }
+    content->CountAsShown(control);
+    content->m_bNewControls = true;
+    content->ComeByAgain();
+}
+
+void RevealControl(QWidget& control)
+{
+    const QPointer<QWidget> self(&control);
+    control.show();
+    if (!self)
+        return;
+    // Not after the next frame, but in it.
+    QCoreApplication::removePostedEvents(&control, QEvent::UpdateLater);
+    RepaintControl(control);
+}
