@@ -6,10 +6,6 @@
 #include <qtsimpleboolwidget.h>
 #include <qtsimpledatawidget.h>
 
-#include <QCoreApplication>
-#include <QMoveEvent>
-#include <QResizeEvent>
-
 #include <utility>
 
 namespace
@@ -35,53 +31,33 @@ bool IsPlacedQuietly(const QWidget& control, bool isSeen)
                   : control.children().isEmpty() && !control.internalWinId();
 }
 
-/// Takes a control out of the toolkit's view while its geometry changes. The toolkit notes which
-/// events it owes to the control, and does no more.
-class CUnseen
+/// Notes what happens to a control as the toolkit does, which asks less often than it sets.
+void Note(QWidget& control, Qt::WidgetAttribute what)
 {
-public:
-    explicit CUnseen(QWidget& control) : m_rControl(control)
-    {
-        m_rControl.setAttribute(Qt::WA_WState_Created, false);
-    }
-    ~CUnseen() { m_rControl.setAttribute(Qt::WA_WState_Created, true); }
-    CUnseen(const CUnseen&) = delete;
-    CUnseen& operator=(const CUnseen&) = delete;
-
-private:
-    QWidget& m_rControl;
-};
-
-/// Changes the geometry of a control, quietly or not.
-template <typename Change>
-void ChangeControl(QWidget& control, bool isQuiet, Change change)
-{
-    if (!isQuiet || !control.testAttribute(Qt::WA_WState_Created))
-    {
-        change();
-        return;
-    }
-    const CUnseen unseen(control);
-    change();
+    if (!control.testAttribute(what))
+        control.setAttribute(what);
 }
 
-/// Sends the events that a shown control is owed. \p before is where it was, if it was in sight.
-void SendOwedEvents(QWidget& control, const QRect& before)
+/// The record that the toolkit keeps of where a control is. A control whose record is written moves
+/// without a search for what it covers, and without events.
+QRect& RecordOf(QWidget& control)
 {
-    if (!control.isVisible())
-        return;
-    if (control.testAttribute(Qt::WA_PendingMoveEvent))
-    {
-        control.setAttribute(Qt::WA_PendingMoveEvent, false);
-        QMoveEvent event(control.pos(), before.topLeft());
-        QCoreApplication::sendEvent(&control, &event);
-    }
-    if (control.testAttribute(Qt::WA_PendingResizeEvent))
-    {
-        control.setAttribute(Qt::WA_PendingResizeEvent, false);
-        QResizeEvent event(control.size(), before.size());
-        QCoreApplication::sendEvent(&control, &event);
-    }
+    return const_cast<QRect&>(control.geometry());
+}
+
+void MoveQuietly(QWidget& control, const QPoint& place)
+{
+    RecordOf(control).moveTopLeft(place);
+    Note(control, Qt::WA_Moved);
+    Note(control, Qt::WA_PendingMoveEvent);
+}
+
+void ResizeQuietly(QWidget& control, const QSize& size)
+{
+    RecordOf(control).setSize(
+        size.boundedTo(control.maximumSize()).expandedTo(control.minimumSize()));
+    Note(control, Qt::WA_Resized);
+    Note(control, Qt::WA_PendingResizeEvent);
 }
 
 } // namespace
@@ -99,7 +75,8 @@ CWholePlacement::~CWholePlacement()
         m_pPanel->update();
     for (const QPointer<QWidget>& control : m_vRevealed)
     {
-        if (m_pPanel && control && IsToBeRevealed(*control) && IsSeen(control->geometry()))
+        if (m_pPanel && control && IsToBeRevealed(*control) && control->isVisible() &&
+            IsSeen(control->geometry()))
             RevealControl(*control);
     }
 }
@@ -125,8 +102,10 @@ void CWholePlacement::Move(QWidget& control, const QPoint& place, bool isPlain)
     const bool isQuiet = isThere || IsPlacedQuietly(control, isSeen);
     if (isSeen && m_iShift != 0)
         NoteMove(control, place - before.topLeft(), isQuiet);
-    if (!isThere)
-        ChangeControl(control, isQuiet, [&] { control.move(place); });
+    if (!isQuiet)
+        control.move(place);
+    else if (!isThere)
+        MoveQuietly(control, place);
     // Also for a control that stays: the panel may have grown down to it.
     if (isQuiet && (isSeen || !isPlain))
         TellControl(control, before, isPlain);
@@ -139,7 +118,10 @@ void CWholePlacement::Resize(QWidget& control, const QSize& size, bool isPlain)
         return;
     const bool isSeen = IsSeen(before) || IsSeen(QRect(before.topLeft(), size));
     const bool isQuiet = IsPlacedQuietly(control, isSeen);
-    ChangeControl(control, isQuiet, [&] { control.resize(size); });
+    if (isQuiet)
+        ResizeQuietly(control, size);
+    else
+        control.resize(size);
     if (isQuiet && (isSeen || !isPlain))
         TellControl(control, before, isPlain);
 }
@@ -173,14 +155,18 @@ void MoveControl(QWidget& control, const QPoint& place, const std::type_info& ty
 {
     if (CWholePlacement* placement = CWholePlacement::Of(control))
         placement->Move(control, place, typeid(control) == type);
+    else if (IsToBeRevealed(control))
+        MoveQuietly(control, place);
     else
-        ChangeControl(control, IsToBeRevealed(control), [&] { control.move(place); });
+        control.move(place);
 }
 
 void ResizeControl(QWidget& control, const QSize& size, const std::type_info& type)
 {
     if (CWholePlacement* placement = CWholePlacement::Of(control))
         placement->Resize(control, size, typeid(control) == type);
+    else if (IsToBeRevealed(control))
+        ResizeQuietly(control, size);
     else
-        ChangeControl(control, IsToBeRevealed(control), [&] { control.resize(size); });
+        control.resize(size);
 }

@@ -10,8 +10,10 @@
 
 #include <QAccessible>
 #include <QCoreApplication>
-#include <QEvent>
+#include <QMoveEvent>
 #include <QPointer>
+#include <QResizeEvent>
+#include <QShowEvent>
 
 #include <unordered_set>
 #include <utility>
@@ -73,6 +75,9 @@ void CPanelContent::setVisible(bool visible)
             continue;
         CountAsShown(*control);
     }
+    m_bNewControls = m_bNewControls || !waiting.empty();
+    if (isVisible())
+        RevealNewControls();
 }
 
 void CPanelContent::CountAsShown(QWidget& control) const
@@ -123,11 +128,40 @@ void ShowControl(QWidget& control, const std::type_info& type)
 
 void RevealControl(QWidget& control)
 {
+    // As the toolkit shows a widget, without the search for what the mouse is over and a repaint of
+    // its own. Whoever watches these events may remove the control.
     const QPointer<QWidget> self(&control);
-    control.show();
-    if (!self)
+    control.ensurePolished();
+    control.setAttribute(Qt::WA_WState_ExplicitShowHide);
+    SendOwedEvents(control, QRect(control.pos(), QSize()));
+    if (self)
+    {
+        QShowEvent event;
+        QCoreApplication::sendEvent(&control, &event);
+    }
+    if (self && QAccessible::isActive())
+    {
+        QAccessibleEvent event(&control, QAccessible::ObjectShow);
+        QAccessible::updateAccessibility(&event);
+    }
+    if (self)
+        RepaintControl(control);
+}
+
+void SendOwedEvents(QWidget& control, const QRect& before)
+{
+    if (!control.isVisible())
         return;
-    // Not after the next frame, but in it.
-    QCoreApplication::removePostedEvents(&control, QEvent::UpdateLater);
-    RepaintControl(control);
+    if (control.testAttribute(Qt::WA_PendingMoveEvent))
+    {
+        control.setAttribute(Qt::WA_PendingMoveEvent, false);
+        QMoveEvent event(control.pos(), before.topLeft());
+        QCoreApplication::sendEvent(&control, &event);
+    }
+    if (control.testAttribute(Qt::WA_PendingResizeEvent))
+    {
+        control.setAttribute(Qt::WA_PendingResizeEvent, false);
+        QResizeEvent event(control.size(), before.size());
+        QCoreApplication::sendEvent(&control, &event);
+    }
 }

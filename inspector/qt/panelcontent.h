@@ -6,9 +6,10 @@
 
 /// The parent of all controls of a panel.
 ///
-/// What the toolkit does for a widget that is shown (a show event, an object for assistive
-/// technology, a posted repaint) takes longer than all else that a row needs. A control of the
-/// library counts as shown at once, but has this done for it when it first comes into sight.
+/// What the toolkit does for a widget that is shown (an object for assistive technology, a posted
+/// repaint, a search for what the mouse is over) takes longer than all else that a row needs. A
+/// control of the library counts as shown at once and has its show event when it first comes into
+/// sight; the rest is left out.
 class CPanelContent : public QWidget
 {
 public:
@@ -52,5 +53,8 @@ inline bool IsToBeRevealed(const QWidget& control)
     return !control.testAttribute(Qt::WA_WState_ExplicitShowHide) && !control.isHidden();
 }
 
-/// Has the toolkit do what it does for a widget that is shown.
+/// Does what the toolkit does for a widget that is shown.
 void RevealControl(QWidget& control);
+
+/// Sends a shown control the move and resize events that it is owed. \p before is where it was.
+void SendOwedEvents(QWidget& control, const QRect& before);
