@@ -13,6 +13,11 @@
 
 #include <QScrollBar>
 
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
 namespace
 {
 
@@ -74,11 +79,8 @@ public:
                 AddRow(row, node);
         }
         m_controller.ConnectDataElements();
-        for (std::size_t row = 0; row < m_vRows.size(); ++row)
-        {
-            StoreValue(*m_vRows[row].m_pElement, m_vRows[row].m_plan.m_sValue);
-            m_vRows[row].m_pElement->UpdateData();
-        }
+        for (const sRow& row : m_vRows)
+            ShowValue(row, row.m_pPlan->m_sValue);
         m_view.ResizeInspector(g_iPanelWidth, g_iPanelHeight);
         m_view.show();
     }
@@ -93,23 +95,23 @@ public:
 
     void ChangeValue(int row, int round) override
     {
-        CInspectorDataElement& element = *m_vRows[row].m_pElement;
-        StoreValue(element, NextValue(m_vRows[row].m_plan, round));
-        element.UpdateData();
+        ShowValue(m_vRows[row], NextValue(*m_vRows[row].m_pPlan, round));
     }
 
     void ChangeAllValues(int round) override
     {
         for (const sRow& row : m_vRows)
-            m_controller.DirtifyItem(row.m_pRecord, new sNewValue(NextValue(row.m_plan, round)));
+            m_controller.DirtifyItem(m_vRecords[row.m_iFirst],
+                                     new sNewValue(NextValue(*row.m_pPlan, round)));
     }
 
     void RemoveRows(const std::vector<int>& rows) override
     {
         for (int row : rows)
         {
-            for (CInspectorDataElement* element : m_vRows[row].m_vAll)
-                m_controller.RemoveItem(element);
+            const std::size_t first = m_vRows[row].m_iFirst;
+            for (int i = 0; i < CountFields(*m_vRows[row].m_pPlan); ++i)
+                m_controller.RemoveItem(m_vRecords[first + i]->m_pElement);
         }
     }
 
@@ -117,45 +119,52 @@ public:
     {
         m_controller.ClearAllData();
         m_vRows.clear();
-        m_vWidgets.clear();
+        m_vRecords.clear();
     }
 
     void GoToNextRow() override
     {
-        const std::size_t from = m_iFocus++ % m_vWidgets.size();
-        m_controller.GiveFocusToNextElement(m_iFocus > 1 ? m_vWidgets[from - 1] : nullptr);
+        const std::size_t from = m_iFocus++ % m_vRecords.size();
+        m_controller.GiveFocusToNextElement(m_iFocus > 1 ? m_vRecords[from - 1]->m_pWidget
+                                                         : nullptr);
     }
 
 private:
     struct sRow
     {
-        CInspectorDataElement* m_pElement;
-        CInspectorController::sInspectorControllerData* m_pRecord;
-        std::vector<CInspectorDataElement*> m_vAll; ///< a container's fields
-        const sPlannedRow& m_plan;
+        std::size_t m_iFirst; ///< of its records; a container has one for each field
+        const sPlannedRow* m_pPlan;
     };
+
+    static int CountFields(const sPlannedRow& row)
+    {
+        return row.m_eKind == ePlannedKind::Container ? 3 : 1;
+    }
+
+    void ShowValue(const sRow& row, const std::string& value)
+    {
+        CInspectorDataElement& element = *m_vRecords[row.m_iFirst]->m_pElement;
+        StoreValue(element, value);
+        element.UpdateData();
+    }
 
     void AddRow(const sPlannedRow& row, CInspectorView::sInspectorElement* group)
     {
-        sRow added{nullptr, nullptr, {}, row};
         CInspectorView::sInspectorElement* parent = group;
-        const int fields = row.m_eKind == ePlannedKind::Container ? 3 : 1;
+        const int fields = CountFields(row);
         if (fields > 1)
             parent = m_view.AddSingleLineContainer(row.m_sName.c_str(), nullptr, group);
+        m_vRows.push_back({m_vRecords.size(), &row});
         for (int i = 0; i < fields; ++i)
         {
             const auto [element, widget] = MakePair(row);
             m_controller.AddItem(element, widget, nullptr);
             m_view.AddElement(element, widget, row.m_sName.c_str(), nullptr, parent);
-            added.m_vAll.push_back(element);
-            m_vWidgets.push_back(widget);
+            m_vRecords.push_back(m_controller.GetItems().back());
         }
-        added.m_pElement = added.m_vAll.front();
-        added.m_pRecord = *std::prev(m_controller.GetItems().end(), fields);
-        m_vRows.push_back(std::move(added));
     }
 
-    static std::pair<CInspectorDataElement*, CInspectorDataWidget*> MakePair(const sPlannedRow& row)
+    std::pair<CInspectorDataElement*, CInspectorDataWidget*> MakePair(const sPlannedRow& row)
     {
         switch (row.m_eKind)
         {
@@ -164,9 +173,7 @@ private:
         case ePlannedKind::Enum:
         {
             auto* element = new CEnumDataElement;
-            element->CreateEnum();
-            for (std::size_t i = 0; i < row.m_vChoices.size(); ++i)
-                element->AddEnum(std::to_string(i).c_str(), row.m_vChoices[i].c_str());
+            element->SetExternalEnum(GetDefinition(row.m_vChoices));
             return {element, new CQTEnumDataWidget};
         }
         case ePlannedKind::Button:
@@ -180,15 +187,31 @@ private:
         }
     }
 
+    /// Rows with the same choices are of one enumeration, which a host defines once.
+    CEnumDataElement::sEnumDefinition* GetDefinition(const std::vector<std::string>& choices)
+    {
+        const auto [entry, isNew] = m_mapDefinitions.try_emplace(choices);
+        if (isNew)
+        {
+            CEnumDataElement element;
+            element.SetExternalEnum(&entry->second);
+            for (std::size_t i = 0; i < choices.size(); ++i)
+                element.AddEnum(std::to_string(i).c_str(), choices[i].c_str());
+        }
+        return &entry->second;
+    }
+
     QScrollBar& GetScrollBar()
     {
         return *m_view.findChild<QScrollBar*>(QString(), Qt::FindDirectChildrenOnly);
     }
 
+    // The elements use the definitions for as long as they live.
+    std::map<std::vector<std::string>, CEnumDataElement::sEnumDefinition> m_mapDefinitions;
     CQTInspectorView m_view;
     CBenchmarkController m_controller;
     std::vector<sRow> m_vRows;
-    std::vector<CInspectorDataWidget*> m_vWidgets;
+    std::vector<CInspectorController::sInspectorControllerData*> m_vRecords;
     std::size_t m_iFocus = 0;
 };
 

@@ -17,8 +17,7 @@ void CTreeModel::Fill(const CRowPlan& plan)
             added->m_eKind = row.m_eKind;
             added->m_sName = QString::fromStdString(row.m_sName);
             added->m_sValue = QString::fromStdString(row.m_sValue);
-            for (const std::string& choice : row.m_vChoices)
-                added->m_lChoices.push_back(QString::fromStdString(choice));
+            added->m_lChoices = GetChoices(row.m_vChoices);
             added->m_pGroup = node.get();
             added->m_pPlan = &row;
             m_vPlaces.push_back(added.get());
@@ -27,6 +26,17 @@ void CTreeModel::Fill(const CRowPlan& plan)
         m_vGroups.push_back(std::move(node));
     }
     endResetModel();
+}
+
+QStringList CTreeModel::GetChoices(const std::vector<std::string>& choices)
+{
+    QStringList& list = m_mapChoices[choices];
+    if (list.isEmpty())
+    {
+        for (const std::string& choice : choices)
+            list.push_back(QString::fromStdString(choice));
+    }
+    return list;
 }
 
 void CTreeModel::Clear()

@@ -5,7 +5,9 @@
 #include <QAbstractItemModel>
 #include <QStringList>
 
+#include <map>
 #include <memory>
+#include <string>
 #include <vector>
 
 /// The rows of a panel as a model of two columns: the label and the value.
@@ -48,9 +50,12 @@ private:
         std::vector<std::unique_ptr<sNode>> m_vRows;
     };
 
+    /// Rows with the same choices share them.
+    QStringList GetChoices(const std::vector<std::string>& choices);
     static sNode& NodeOf(const QModelIndex& index);
     static int PlaceInGroup(const sNode& row);
 
+    std::map<std::vector<std::string>, QStringList> m_mapChoices;
     std::vector<std::unique_ptr<sNode>> m_vGroups;
     std::vector<sNode*> m_vPlaces; ///< by row number
 };
