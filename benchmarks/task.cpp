@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <numeric>
 #include <random>
+#include <utility>
 
 namespace
 {
@@ -94,12 +95,25 @@ void Clear(CPanel& panel, const CRowPlan&, int)
     panel.Clear();
 }
 
+/// Gives all rows names that no row of the process had, about as long as they are.
+void Rename(CRowPlan& plan)
+{
+    static int calls = 0;
+    const std::string beginning = std::to_string(10000 + ++calls);
+    for (sPlannedGroup& group : plan)
+    {
+        for (sPlannedRow& row : group.m_vRows)
+            row.m_sName.replace(0, beginning.size(), beginning);
+    }
+}
+
 } // namespace
 
 const std::vector<sTask>& AllTasks()
 {
     static const std::vector<sTask> tasks{
         {"fill", sTask::eEmptyPanel, Fill, 1},
+        {"fill-new-names", sTask::eNewNames, Fill, 1},
         {"width", sTask::eSamePanel, ChangeWidth, 10},
         {"layout", sTask::eSamePanel, LayOut, 10},
         {"scroll", sTask::eSamePanel, ScrollOneRow, 20},
@@ -115,8 +129,8 @@ const std::vector<sTask>& AllTasks()
     return tasks;
 }
 
-CTaskPanel::CTaskPanel(const sTask& task, const sTwin& twin, const CRowPlan& plan)
-    : m_rTask(task), m_rTwin(twin), m_rPlan(plan)
+CTaskPanel::CTaskPanel(const sTask& task, const sTwin& twin, CRowPlan plan)
+    : m_rTask(task), m_rTwin(twin), m_plan(std::move(plan))
 {
 }
 
@@ -126,9 +140,11 @@ void CTaskPanel::Prepare()
         return;
     m_pPanel.reset();
     m_pPanel = m_rTwin.m_pMake();
-    if (m_rTask.m_ePanel == sTask::eEmptyPanel)
+    if (m_rTask.m_ePanel == sTask::eNewNames)
+        Rename(m_plan);
+    if (m_rTask.m_ePanel <= sTask::eNewNames)
         return;
-    m_pPanel->Fill(m_rPlan);
+    m_pPanel->Fill(m_plan);
     // Once for what showing brings about, once for what that asks for.
     m_pPanel->Paint();
     m_pPanel->Paint();
@@ -138,5 +154,5 @@ void CTaskPanel::Prepare()
 
 void CTaskPanel::Act()
 {
-    m_rTask.m_pAct(*m_pPanel, m_rPlan, ++m_iRound);
+    m_rTask.m_pAct(*m_pPanel, m_plan, ++m_iRound);
 }

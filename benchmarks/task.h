@@ -12,6 +12,7 @@ struct sTask
     enum ePanel
     {
         eEmptyPanel,  ///< a new, empty panel each time
+        eNewNames,    ///< the same, and rows with names that the process did not see before
         eFilledPanel, ///< a new, filled and painted panel each time
         eSamePanel,   ///< the filled panel of the last time
     };
@@ -30,7 +31,7 @@ const std::vector<sTask>& AllTasks();
 class CTaskPanel
 {
 public:
-    CTaskPanel(const sTask& task, const sTwin& twin, const CRowPlan& plan);
+    CTaskPanel(const sTask& task, const sTwin& twin, CRowPlan plan);
 
     /// To be called before each round, outside of what is timed.
     void Prepare();
@@ -39,7 +40,7 @@ public:
 private:
     const sTask& m_rTask;
     const sTwin& m_rTwin;
-    const CRowPlan& m_rPlan;
+    CRowPlan m_plan;
     std::unique_ptr<CPanel> m_pPanel;
     int m_iRound = 0;
 };

@@ -136,6 +136,10 @@ public:
         int m_iX = 0;                             ///< left edge
         int m_iY = 0;                             ///< top edge, before the scroll offset
         int m_iLabelWidth = 0;                    ///< of a row's label column
+
+        /// Where the toolkit class found the width of the name the last time, for it to look there
+        /// first.
+        unsigned m_uLabelPlace = 0;
     };
 
     /// One control of a single-line container while the width is shared out.

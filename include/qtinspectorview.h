@@ -3,13 +3,13 @@
 #include <inspectorview.h>
 
 #include <QColor>
-#include <QFont>
 #include <QRegion>
 #include <QWidget>
 
+#include <memory>
 #include <string>
-#include <unordered_map>
 
+class CLabelMeter;
 class QScrollBar;
 
 /// The inspector on the screen: the layout engine in a Qt widget, with a vertical scroll bar.
@@ -97,11 +97,7 @@ private:
     void PaintLabel(QPainter& painter, const sExposed& exposed, const sInspectorElement& row);
     void PaintGroup(QPainter& painter, const sExposed& exposed, const sInspectorElement& group);
 
-    /// Label widths by name, as they are in this font, mode and encoding.
-    std::unordered_map<std::string, int> m_mapLabelWidths;
-    QFont m_fontLabels;
-    bool m_bPreviewLabels = false;
-    int m_iLabelEncoding = 0;
+    std::unique_ptr<CLabelMeter> m_pLabelMeter;
     /// True from a call of UpdateView until the whole panel is painted.
     bool m_bRepaintAsked = false;
 };

@@ -2,18 +2,17 @@
 
 #include <inspectorcontroller.h>
 #include <inspectordatawidget.h>
-#include <qttextencoding.h>
 
 #include "../view/pixels.h"
+#include "labelmeter.h"
 #include "layoutoperations.h"
 #include "panelcontent.h"
-#include "text.h"
 #include "wheelfilter.h"
 
-#include <QFontMetrics>
 #include <QPointer>
 #include <QScrollBar>
 
+#include <memory>
 #include <typeinfo>
 #include <utility>
 #include <vector>
@@ -28,7 +27,8 @@ constexpr int g_iRowsPerNotch = 3;
 } // namespace
 
 CQTInspectorView::CQTInspectorView()
-    : m_pContent(new CPanelContent(*this)), m_pScrollBar(new QScrollBar(this))
+    : m_pContent(new CPanelContent(*this)), m_pScrollBar(new QScrollBar(this)),
+      m_pLabelMeter(std::make_unique<CLabelMeter>())
 {
     m_pContent->show();
     m_pScrollBar->hide();
@@ -209,26 +209,7 @@ int CQTInspectorView::GetElementLabelWidth(sInspectorElement* element)
         return 0;
     // A style sheet has its say about the font before the view is first shown.
     ensurePolished();
-    const int encoding = CQTTextEncoding::GetEncoding();
-    if (m_bPreviewLabels != m_bPreview || m_iLabelEncoding != encoding || m_fontLabels != font())
-    {
-        m_mapLabelWidths.clear();
-        m_bPreviewLabels = m_bPreview;
-        m_iLabelEncoding = encoding;
-        m_fontLabels = font();
-    }
-    const auto [entry, isNew] = m_mapLabelWidths.emplace(element->m_sName, 0);
-    if (isNew)
-    {
-        QString text = ToQString(element->m_sName);
-        if (m_bPreview)
-            text += QLatin1Char('=');
-        // The measure of a text does not depend on where it stands.
-        const QRect bounds =
-            QFontMetrics(font()).boundingRect(QRect(), Qt::AlignLeft | Qt::AlignVCenter, text);
-        entry->second = bounds.right() - bounds.left() + 3;
-    }
-    return entry->second;
+    return m_pLabelMeter->GetWidth(*element, font(), m_bPreview, m_setHolders.size());
 }
 
 void CQTInspectorView::OnToggleShowContent(bool shown)
