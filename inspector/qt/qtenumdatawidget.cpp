@@ -8,6 +8,7 @@
 #include "showablearea.h"
 #include "sortentries.h"
 #include "text.h"
+#include "textline.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -131,8 +132,7 @@ void CQTEnumDataWidget::paintEvent(QPaintEvent*)
         return;
     std::string label;
     element->GetDisplayString(ToNarrow(m_sText).c_str(), label);
-    painter.drawText(QRect(3, 0, width(), height()), Qt::AlignLeft | Qt::AlignVCenter,
-                     ToQString(label));
+    DrawTextLine(painter, QRect(3, 0, width(), height()), ToQString(label));
 }
 
 void CQTEnumDataWidget::mousePressEvent(QMouseEvent* event)

@@ -3,6 +3,7 @@
 #include "panelcontent.h"
 #include "panelrepaint.h"
 #include "text.h"
+#include "textline.h"
 
 #include <QPaintEvent>
 #include <QPainter>
@@ -13,8 +14,6 @@
 
 namespace
 {
-
-constexpr int g_iLabelFlags = Qt::AlignLeft | Qt::AlignVCenter;
 
 /// Whether something drawn in a rectangle may be seen in another; nothing is known about a
 /// rectangle turned inside out.
@@ -52,8 +51,7 @@ void CQTInspectorView::paintEvent(QPaintEvent* event)
     {
         const QPen pen = painter.pen();
         painter.setPen(QPen(m_colorPreview));
-        painter.drawText(QRect(0, 0, width(), height()), g_iLabelFlags,
-                         ToQString(m_sPreviewMessage));
+        DrawTextLine(painter, QRect(0, 0, width(), height()), ToQString(m_sPreviewMessage));
         painter.setPen(pen);
         return;
     }
@@ -102,7 +100,7 @@ void CQTInspectorView::PaintLabel(QPainter& painter, const sExposed& exposed,
     QString text = ToQString(row.m_sName);
     if (m_bPreview)
         text += QLatin1Char('=');
-    painter.drawText(rect, g_iLabelFlags, text);
+    DrawTextLine(painter, rect, text);
 }
 
 void CQTInspectorView::PaintGroup(QPainter& painter, const sExposed& exposed,
@@ -128,6 +126,6 @@ void CQTInspectorView::PaintGroup(QPainter& painter, const sExposed& exposed,
         return;
     const Qt::BGMode mode = painter.backgroundMode();
     painter.setBackgroundMode(Qt::OpaqueMode);
-    painter.drawText(title, g_iLabelFlags, ToQString(group.m_sName));
+    DrawTextLine(painter, title, ToQString(group.m_sName));
     painter.setBackgroundMode(mode);
 }

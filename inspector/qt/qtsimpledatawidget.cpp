@@ -7,6 +7,7 @@
 #include "panelrepaint.h"
 #include "showablearea.h"
 #include "text.h"
+#include "textline.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -119,7 +120,7 @@ void CQTSimpleDataWidget::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.fillRect(0, 0, width(), height(), palette().color(QPalette::Base));
     if (!m_sText.isEmpty())
-        painter.drawText(QRect(3, 0, width(), height()), Qt::AlignLeft | Qt::AlignVCenter, m_sText);
+        DrawTextLine(painter, QRect(3, 0, width(), height()), m_sText);
 }
 
 void CQTSimpleDataWidget::mousePressEvent(QMouseEvent* event)
