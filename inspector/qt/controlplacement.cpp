@@ -47,7 +47,8 @@ QRect& RecordOf(QWidget& control)
 
 void MoveQuietly(QWidget& control, const QPoint& place)
 {
-    RecordOf(control).moveTopLeft(place);
+    // Not moved by the way it goes, which may be more than 32 bits can tell.
+    RecordOf(control) = QRect(place, control.size());
     Note(control, Qt::WA_Moved);
     Note(control, Qt::WA_PendingMoveEvent);
 }
