@@ -11,6 +11,7 @@
 #include <QScrollBar>
 #include <QTest>
 
+#include <climits>
 #include <functional>
 #include <memory>
 #include <string>
@@ -247,6 +248,19 @@ TEST(PanelContent, ShowsAControlThatIsNotLaidOutWhenThePanelIsPainted)
     panel.Settle();
     EXPECT_EQ(log.Take().substr(0, 23), "move resize show paint ");
     EXPECT_TRUE(row->testAttribute(Qt::WA_WState_ExplicitShowHide));
+}
+
+TEST(PanelContent, AWaitingControlMayBeMovedFromEndToEnd)
+{
+    CPanel panel;
+    auto* row = panel.Add();
+    row->MoveWidget(INT_MIN, INT_MIN);
+    EXPECT_EQ(row->pos(), QPoint(-(1 << 30), -(1 << 30)));
+    row->MoveWidget(INT_MAX, INT_MAX);
+    EXPECT_EQ(row->pos(), QPoint(1 << 30, 1 << 30));
+    EXPECT_EQ(row->size(), QSize(640, 480));
+    row->ResizeWidget(INT_MAX, INT_MIN);
+    EXPECT_EQ(row->size(), QSize(QWIDGETSIZE_MAX, 0));
 }
 
 TEST(PanelContent, ShowsControlsOfDerivedClassesAtOnce)
