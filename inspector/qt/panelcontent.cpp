@@ -80,6 +80,13 @@ void CPanelContent::setVisible(bool visible)
         RevealNewControls();
 }
 
+void CPanelContent::TakeIn(QWidget& control)
+{
+    CountAsShown(control);
+    ComeByAgain();
+    m_bNewControls = true;
+}
+
 void CPanelContent::CountAsShown(QWidget& control) const
 {
     control.setAttribute(Qt::WA_WState_Hidden, false);
@@ -113,17 +120,15 @@ void CPanelContent::RevealNewControls()
 
 void ShowControl(QWidget& control, const std::type_info& type)
 {
-    auto* content =
-        typeid(control) == type ? dynamic_cast<CPanelContent*>(control.parentWidget()) : nullptr;
-    if (!content || !CanWait(control) || QAccessible::isActive() ||
-        control.testAttribute(Qt::WA_WState_ExplicitShowHide))
-    {
+    QWidget* parent = control.parentWidget();
+    const bool canWait = typeid(control) == type && parent &&
+                         typeid(*parent) == typeid(CPanelContent) && CanWait(control) &&
+                         !control.testAttribute(Qt::WA_WState_ExplicitShowHide) &&
+                         !QAccessible::isActive();
+    if (canWait)
+        static_cast<CPanelContent*>(parent)->TakeIn(control);
+    else
         control.show();
-        return;
-    }
-    content->CountAsShown(control);
-    content->m_bNewControls = true;
-    content->ComeByAgain();
 }
 
 void RevealControl(QWidget& control)

@@ -21,9 +21,10 @@ public:
     /// Reveals the controls in sight that no placement has met since they were shown.
     void RevealNewControls();
 
-private:
-    friend void ShowControl(QWidget& control, const std::type_info& type);
+    /// Has a control wait until it comes into sight.
+    void TakeIn(QWidget& control);
 
+private:
     /// Gives a control the state of a child that is shown as its parent is.
     void CountAsShown(QWidget& control) const;
 

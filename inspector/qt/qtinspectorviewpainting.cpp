@@ -69,11 +69,16 @@ void CQTInspectorView::paintEvent(QPaintEvent* event)
     {
         for (const sInspectorElement& element : *lists.front())
         {
-            if (element.m_iKind == eElementRow)
+            const bool isOut = IsOutOfSight(element, exposed);
+            // And so is all that lies in it.
+            if (isOut && m_bStacked)
+                continue;
+            const bool isRow = element.m_iKind == eElementRow;
+            if (isRow && !isOut)
                 PaintLabel(painter, exposed, element);
-            else if (!m_bPreview)
+            else if (!isRow && !m_bPreview)
                 PaintGroup(painter, exposed, element);
-            if (!element.m_lChildren.empty() && !(m_bStacked && IsOutOfSight(element, exposed)))
+            if (!element.m_lChildren.empty())
                 lists.push_back(&element.m_lChildren);
         }
     }
@@ -88,7 +93,7 @@ bool CQTInspectorView::IsOutOfSight(const sInspectorElement& element, const sExp
 void CQTInspectorView::PaintLabel(QPainter& painter, const sExposed& exposed,
                                   const sInspectorElement& row)
 {
-    if (row.m_sName.empty() || IsOutOfSight(row, exposed))
+    if (row.m_sName.empty())
         return;
     const qreal top = qreal(row.m_iY) - m_pScrollBar->value();
     const QRectF rect(row.m_iX, top, row.m_iLabelWidth, row.m_iHeight);
