@@ -25,12 +25,14 @@ constexpr qreal g_dNoLimit = 0x01000000;
 struct sDrawnText
 {
     QFont m_font;
+    Qt::LayoutDirection m_eDirection;
     QString m_sText;
 };
 
 bool operator==(const sDrawnText& a, const sDrawnText& b)
 {
-    return a.m_sText == b.m_sText && IsSameFont(a.m_font, b.m_font);
+    return a.m_sText == b.m_sText && a.m_eDirection == b.m_eDirection &&
+           IsSameFont(a.m_font, b.m_font);
 }
 
 auto qHash(const sDrawnText& drawn)
@@ -71,7 +73,7 @@ std::unique_ptr<QTextLayout> LayOut(const sDrawnText& drawn)
 {
     auto layout = std::make_unique<QTextLayout>(drawn.m_sText, drawn.m_font);
     QTextOption option;
-    option.setTextDirection(Qt::LeftToRight);
+    option.setTextDirection(drawn.m_eDirection);
     layout->setTextOption(option);
     layout->setCacheEnabled(true);
     layout->beginLayout();
@@ -111,8 +113,10 @@ void Draw(QPainter& painter, const QRectF& rect, const QTextLine& line)
 void DrawTextLine(QPainter& painter, const QRectF& rect, const QString& text)
 {
     const QTextLayout* layout = nullptr;
-    if (painter.layoutDirection() == Qt::LeftToRight && painter.pen().style() != Qt::NoPen)
-        layout = FindLayout({painter.font(), text});
+    const Qt::LayoutDirection direction = painter.layoutDirection();
+    // What runs from the right is aligned there.
+    if (direction != Qt::RightToLeft && painter.pen().style() != Qt::NoPen)
+        layout = FindLayout({painter.font(), direction, text});
     if (layout)
         Draw(painter, rect, layout->lineAt(0));
     else

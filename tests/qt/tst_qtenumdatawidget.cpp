@@ -354,6 +354,18 @@ TEST_F(EnumWidget, TakesItsColoursFromTheGroupOfItsState)
     images::ExpectSame(images::Render(m_choice), Expected(QStringLiteral("nine")));
 }
 
+TEST_F(EnumWidget, FollowsItsFont)
+{
+    for (const int size : {12, 9, 17})
+    {
+        QFont font = m_choice.font();
+        font.setPixelSize(size);
+        font.setItalic(size == 9);
+        m_choice.setFont(font);
+        images::ExpectSame(images::Render(m_choice), Expected(QStringLiteral("nine")));
+    }
+}
+
 TEST_F(EnumWidget, ReadsValueAndLabelInTheChosenEncoding)
 {
     m_element.AddEnum("\xE4", "\xF6");

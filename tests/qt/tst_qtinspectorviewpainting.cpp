@@ -393,6 +393,19 @@ TEST(QtInspectorViewPainting, TakesEveryFont)
     }
 }
 
+TEST(QtInspectorViewPainting, FollowsAStyleSheetThatChanges)
+{
+    sNestedPanel panel;
+    panel.m_view.ResizeInspector(300, 150);
+    for (const char* sheet : {"font-size: 17px", "font-size: 12px; font-weight: bold",
+                              "text-decoration: underline", ""})
+    {
+        panel.m_view.setStyleSheet(QString::fromLatin1(sheet));
+        panel.m_view.RecomputeLayout();
+        panel.Expect([&](CPanelPainter& painter) { panel.PaintTo(painter); });
+    }
+}
+
 TEST(QtInspectorViewPainting, KeepsControlsAlignedWithFramesAndLabels)
 {
     sPaintedPanel panel;

@@ -308,6 +308,20 @@ TEST_P(DataWidgetLook, TakesItsColoursFromTheGroupOfItsState)
     ExpectLook();
 }
 
+TEST_P(DataWidgetLook, FollowsItsFont)
+{
+    ExpectLook();
+    QFont font = m_field.font();
+    font.setBold(true);
+    font.setUnderline(true);
+    m_field.setFont(font);
+    ExpectLook();
+    m_field.setStyleSheet(QStringLiteral("font-size: 17px"));
+    ExpectLook();
+    m_field.setStyleSheet(QStringLiteral("font-size: 9px; font-style: italic"));
+    ExpectLook();
+}
+
 TEST_P(DataWidgetLook, IsTheSameForAReadOnlyElement)
 {
     m_element.SetReadOnly(true);
