@@ -7,6 +7,8 @@
 #include <wx/propgrid/props.h>
 #include <wx/wupdlock.h>
 
+#include <map>
+
 namespace
 {
 
@@ -148,12 +150,8 @@ private:
         case ePlannedKind::Bool:
             return new wxBoolProperty(label, UniqueName(), row.m_sValue == "1");
         case ePlannedKind::Enum:
-        {
-            wxPGChoices choices;
-            for (const std::string& choice : row.m_vChoices)
-                choices.Add(wxString::FromUTF8(choice));
-            return new wxEnumProperty(label, UniqueName(), choices, std::stoi(row.m_sValue));
-        }
+            return new wxEnumProperty(label, UniqueName(), GetChoices(row.m_vChoices),
+                                      std::stoi(row.m_sValue));
         case ePlannedKind::Container:
         {
             // Collapsed, so that the fields are shown on the one line.
@@ -166,12 +164,25 @@ private:
         }
     }
 
+    /// Rows with the same choices share them.
+    wxPGChoices& GetChoices(const std::vector<std::string>& choices)
+    {
+        wxPGChoices& list = m_mapChoices[choices];
+        if (!list.IsOk())
+        {
+            for (const std::string& choice : choices)
+                list.Add(wxString::FromUTF8(choice));
+        }
+        return list;
+    }
+
     wxPGProperty* AppendField(wxPGProperty* container, const sPlannedRow& row)
     {
         const wxString value = wxString::FromUTF8(row.m_sValue);
         return m_pGrid->AppendIn(container, new wxStringProperty(row.m_sName, UniqueName(), value));
     }
 
+    std::map<std::vector<std::string>, wxPGChoices> m_mapChoices;
     wxFrame* m_pFrame;
     wxPropertyGrid* m_pGrid;
     std::vector<sRow> m_vRows;
