@@ -1,7 +1,10 @@
 #include "heldmemory.h"
 #include "toolkit.h"
 
-// What a filled and painted panel holds: TWIN ROWS prints heap and resident bytes per row.
+#include <algorithm>
+
+// What a filled and painted panel holds: TWIN ROWS prints heap and resident bytes per row; for no
+// rows, those of the panel.
 
 namespace
 {
@@ -24,7 +27,7 @@ int MeasurePanel(int argc, char** argv)
         const CHeld held;
         panel->Fill(plan);
         panel->Paint();
-        held.Print(CountRows(plan));
+        held.Print(std::max(1, CountRows(plan)));
         return 0;
     }
     return 1;

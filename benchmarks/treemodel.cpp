@@ -85,6 +85,9 @@ void CTreeModel::RemoveRow(int row)
 QModelIndex CTreeModel::index(int row, int column, const QModelIndex& parent) const
 {
     const auto& nodes = parent.isValid() ? NodeOf(parent).m_vRows : m_vGroups;
+    // The view asks an empty model, too.
+    if (static_cast<std::size_t>(row) >= nodes.size())
+        return QModelIndex();
     return createIndex(row, column, nodes[row].get());
 }
 
