@@ -37,7 +37,7 @@ bool IsTooLong(const sTask& task, const sTwin& twin, int rows)
 {
     const bool isTabbing = task.m_sName == "tab-through";
     if (twin.m_sName == "wx")
-        return isTabbing && rows > 1000;
+        return isTabbing && rows > 100;
     const bool isRemovingFromTree = twin.m_sName == "tree" && task.m_sName.rfind("remove", 0) == 0;
     return rows > 10000 && (isTabbing || isRemovingFromTree || twin.m_sName == "form");
 }
