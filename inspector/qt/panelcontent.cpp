@@ -76,8 +76,7 @@ void CPanelContent::setVisible(bool visible)
         CountAsShown(*control);
     }
     m_bNewControls = m_bNewControls || !waiting.empty();
-    if (isVisible())
-        RevealNewControls();
+    RevealNewControls();
 }
 
 void CPanelContent::TakeIn(QWidget& control)
@@ -101,7 +100,7 @@ void CPanelContent::ComeByAgain()
 
 void CPanelContent::RevealNewControls()
 {
-    if (!std::exchange(m_bNewControls, false))
+    if (!isVisible() || !std::exchange(m_bNewControls, false))
         return;
     std::vector<QPointer<QWidget>> seen;
     for (QObject* child : children())
@@ -120,6 +119,7 @@ void CPanelContent::RevealNewControls()
 
 void ShowControl(QWidget& control, const std::type_info& type)
 {
+    control.ensurePolished();
     QWidget* parent = control.parentWidget();
     const bool canWait = typeid(control) == type && parent &&
                          typeid(*parent) == typeid(CPanelContent) && CanWait(control) &&
@@ -136,7 +136,6 @@ void RevealControl(QWidget& control)
     // As the toolkit shows a widget, without the search for what the mouse is over and a repaint of
     // its own. Whoever watches these events may remove the control.
     const QPointer<QWidget> self(&control);
-    control.ensurePolished();
     control.setAttribute(Qt::WA_WState_ExplicitShowHide);
     SendOwedEvents(control, QRect(control.pos(), QSize()));
     if (self)

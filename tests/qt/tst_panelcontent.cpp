@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QPalette>
 #include <QScrollBar>
 #include <QTest>
 
@@ -325,6 +326,27 @@ TEST(PanelContent, PaintsWhatItShowsAlsoWhenLittleOfThePanelIsPainted)
     view.update(290, 190, 5, 5);
     CPanel::Settle();
     EXPECT_EQ(log.Take(), "move resize show paint ");
+}
+
+TEST(PanelContent, APictureOfAPanelThatIsNotShownShowsNoControl)
+{
+    CPanel panel;
+    auto* row = panel.AddRows(20).front();
+    panel.LayOut();
+    CShowLog log(*row);
+    panel.m_view.grab();
+    EXPECT_EQ(log.Take().find("show "), std::string::npos);
+    EXPECT_FALSE(row->isVisible());
+    panel.Show();
+    EXPECT_EQ(log.Take().substr(0, 11), "show paint ");
+}
+
+TEST(PanelContent, AStyleSheetReachesAWaitingControlWhenItIsShown)
+{
+    CPanel panel;
+    panel.m_view.setStyleSheet(QStringLiteral("QWidget { color: rgb(1, 2, 3); }"));
+    const auto rows = panel.AddRows(20);
+    EXPECT_EQ(rows.back()->palette().color(QPalette::WindowText), QColor(1, 2, 3));
 }
 
 TEST(PanelContent, AHostMayHideAndShowAWaitingControl)
