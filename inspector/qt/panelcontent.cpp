@@ -143,11 +143,6 @@ void RevealControl(QWidget& control)
         QShowEvent event;
         QCoreApplication::sendEvent(&control, &event);
     }
-    if (self && QAccessible::isActive())
-    {
-        QAccessibleEvent event(&control, QAccessible::ObjectShow);
-        QAccessible::updateAccessibility(&event);
-    }
     if (self)
         RepaintControl(control);
 }

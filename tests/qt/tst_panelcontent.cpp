@@ -404,8 +404,8 @@ TEST(PanelContent, RowsMayBeRemovedWhileThePanelIsShown)
     CQTSimpleDataWidget* added = nullptr;
     host->m_onShow = [&]
     {
-        delete rows[15];
         added = panel.Add();
+        delete rows[15];
     };
     panel.Show();
     EXPECT_TRUE(rows[14]->isVisible());
@@ -444,6 +444,18 @@ TEST(PanelContent, KeepsItsSizeWhenItIsShownBeforeItIsLaidOut)
     const QRect before = content->geometry();
     panel.Show();
     EXPECT_EQ(content->geometry(), before);
+}
+
+TEST(PanelContent, IsNotShownTwice)
+{
+    CPanel panel;
+    panel.AddRows(20);
+    panel.LayOut();
+    panel.Show();
+    auto* content = panel.m_view.findChild<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    CShowLog log(*content);
+    content->show();
+    EXPECT_EQ(log.Take(), "");
 }
 
 TEST(PanelContent, AnotherChildOfTheContentIsShownAsUsual)
