@@ -31,6 +31,13 @@ bool IsPlacedQuietly(const QWidget& control, bool isSeen)
                   : control.children().isEmpty() && !control.internalWinId();
 }
 
+/// Whether a control has its move and resize events when it is revealed, also if it is placed
+/// alone.
+bool WaitsQuietly(const QWidget& control)
+{
+    return IsToBeRevealed(control) && IsPlacedQuietly(control, false);
+}
+
 /// Notes what happens to a control as the toolkit does, which asks less often than it sets.
 void Note(QWidget& control, Qt::WidgetAttribute what)
 {
@@ -156,7 +163,7 @@ void MoveControl(QWidget& control, const QPoint& place, const std::type_info& ty
 {
     if (CWholePlacement* placement = CWholePlacement::Of(control))
         placement->Move(control, place, typeid(control) == type);
-    else if (IsToBeRevealed(control))
+    else if (WaitsQuietly(control))
         MoveQuietly(control, place);
     else
         control.move(place);
@@ -166,7 +173,7 @@ void ResizeControl(QWidget& control, const QSize& size, const std::type_info& ty
 {
     if (CWholePlacement* placement = CWholePlacement::Of(control))
         placement->Resize(control, size, typeid(control) == type);
-    else if (IsToBeRevealed(control))
+    else if (WaitsQuietly(control))
         ResizeQuietly(control, size);
     else
         control.resize(size);

@@ -71,9 +71,8 @@ void CPanelContent::setVisible(bool visible)
                     : std::unordered_set<const QObject*>(children().begin(), children().end());
     for (QWidget* control : waiting)
     {
-        if (!areAllThere && rest.count(control) == 0)
-            continue;
-        CountAsShown(*control);
+        if (areAllThere || rest.count(control) > 0)
+            CountAsShown(*control);
     }
     m_bNewControls = m_bNewControls || !waiting.empty();
     RevealNewControls();
@@ -133,6 +132,12 @@ void ShowControl(QWidget& control, const std::type_info& type)
 
 void RevealControl(QWidget& control)
 {
+    // It may have got children or a window of its own meanwhile.
+    if (!CanWait(control))
+    {
+        control.show();
+        return;
+    }
     // As the toolkit shows a widget, without the search for what the mouse is over and a repaint of
     // its own. Whoever watches these events may remove the control.
     const QPointer<QWidget> self(&control);

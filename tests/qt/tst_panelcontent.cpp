@@ -11,6 +11,7 @@
 #include <QPalette>
 #include <QScrollBar>
 #include <QTest>
+#include <QWindow>
 
 #include <climits>
 #include <functional>
@@ -298,6 +299,25 @@ TEST(PanelContent, ShowsControlsWithChildrenAtOnce)
     panel.Show();
     EXPECT_TRUE(mark->isVisible());
     EXPECT_NE(log.Take().find("show "), std::string::npos);
+}
+
+TEST(PanelContent, AWaitingControlThatGotAWindowMovesAndShowsIt)
+{
+    CPanel panel;
+    const auto rows = panel.AddRows(20);
+    panel.LayOut();
+    panel.Show();
+    rows[8]->winId();
+    const QWindow* window = rows[8]->windowHandle();
+    ASSERT_TRUE(window);
+    panel.m_view.AddElement(nullptr, new CHostField, "row", nullptr, nullptr);
+    panel.m_view.RecomputeLayout();
+    panel.ScrollTo(100);
+    EXPECT_EQ(rows[8]->y(), 105);
+    EXPECT_EQ(window->geometry().topLeft(), rows[8]->pos());
+    EXPECT_TRUE(window->isVisible());
+    panel.m_view.ResizeInspector(250, 200);
+    EXPECT_EQ(window->geometry().size(), rows[8]->size());
 }
 
 TEST(PanelContent, PaintsWhatItShowsAlsoWhenLittleOfThePanelIsPainted)

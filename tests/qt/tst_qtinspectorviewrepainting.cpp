@@ -74,6 +74,16 @@ public:
 
 } // namespace
 
+/// Gives the panel a row that its controller knows, and a size of 300 x 100 pixels.
+void PlaceItem(sPaintedPanel& panel, const char* label)
+{
+    auto* control = new CTestControl(panel.m_log, label, -1);
+    auto* element = new CSimpleDataElement;
+    panel.m_controller.AddItem(element, control, nullptr);
+    panel.m_view.AddElement(element, control, label, nullptr, nullptr);
+    panel.m_view.ResizeInspector(300, 100);
+}
+
 TEST(QtInspectorViewRepainting, GivesTheSamePixelsInEveryPart)
 {
     sNestedPanel panel;
@@ -293,11 +303,7 @@ TEST(QtInspectorViewRepainting, DeliversTheNoticesOfTheControllerFirst)
 TEST(QtInspectorViewRepainting, ShowsInTheSameFrameWhatANoticeOfARowDid)
 {
     sPaintedPanel panel;
-    auto* control = new CTestControl(panel.m_log, "Size", -1);
-    auto* element = new CSimpleDataElement;
-    panel.m_controller.AddItem(element, control, nullptr);
-    panel.m_view.AddElement(element, control, "Size", nullptr, nullptr);
-    panel.m_view.ResizeInspector(300, 100);
+    PlaceItem(panel, "Size");
     panel.m_controller.DirtifyItem(panel.m_controller.RecordAt(0),
                                    new CRecordingNotice(panel.m_log, "notice"));
     panel.m_controller.m_fnHandleDirtyItem = [&](auto*, auto*)
@@ -317,11 +323,7 @@ TEST(QtInspectorViewRepainting, ShowsInTheSameFrameWhatANoticeOfARowDid)
 TEST(QtInspectorViewRepainting, PaintsAFurtherFrameForWhatADeliveryQueued)
 {
     sPaintedPanel panel;
-    auto* control = new CTestControl(panel.m_log, "Size", -1);
-    auto* element = new CSimpleDataElement;
-    panel.m_controller.AddItem(element, control, nullptr);
-    panel.m_view.AddElement(element, control, "Size", nullptr, nullptr);
-    panel.m_view.ResizeInspector(300, 100);
+    PlaceItem(panel, "Size");
     panel.m_view.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&panel.m_view));
     QTest::qWait(50);
@@ -350,11 +352,7 @@ TEST(QtInspectorViewRepainting, AsksForNoticesWhateverItPaints)
 TEST(QtInspectorViewRepainting, SurvivesAHandlerThatClearsThePanel)
 {
     sPaintedPanel panel;
-    auto* control = new CTestControl(panel.m_log, "Size", -1);
-    auto* element = new CSimpleDataElement;
-    panel.m_controller.AddItem(element, control, nullptr);
-    panel.m_view.AddElement(element, control, "Size", nullptr, nullptr);
-    panel.m_view.ResizeInspector(300, 100);
+    PlaceItem(panel, "Size");
     panel.m_controller.DirtifyController(new CRecordingNotice(panel.m_log, "notice"));
     panel.m_controller.m_fnHandleControllerDirt = [&](auto&) { panel.m_controller.ClearAllData(); };
     panel.Expect([](CPanelPainter&) {});
