@@ -132,12 +132,6 @@ void ShowControl(QWidget& control, const std::type_info& type)
 
 void RevealControl(QWidget& control)
 {
-    // It may have got children or a window of its own meanwhile.
-    if (!CanWait(control))
-    {
-        control.show();
-        return;
-    }
     // As the toolkit shows a widget, without the search for what the mouse is over and a repaint of
     // its own. Whoever watches these events may remove the control.
     const QPointer<QWidget> self(&control);
